@@ -1,0 +1,40 @@
+#include "cli/StyleSheetInput.h"
+
+#include "linking/HtmlStyle.h"
+#include "linking/TextFiles.h"
+#include "text/Narrowing.h"
+
+namespace tintora::cli {
+
+namespace {
+
+Text ReadInput(Console& console, const std::string& file) {
+    if (file == "-")
+        return ReadStandardInput(console);
+    try {
+        return DecodeBytes(ReadFileBytes(TextFromFileName(file))).text;
+    } catch (const FileFailure& failure) {
+        throw CommandFailure(file, failure.code().message());
+    }
+}
+
+}  // namespace
+
+Text ReadStyleSheet(Console& console, const std::string& file) {
+    const Text content = ReadInput(console, file);
+    const std::string limit = std::to_string(MaximumTextLength);
+    try {
+        Text sheet = ExtractStyleSheetText(content);
+        if (sheet.size() > MaximumTextLength) {
+            throw CommandFailure(file,
+                                 std::to_string(sheet.size()) + " characters; a style sheet holds at most " + limit);
+        }
+        return sheet;
+    } catch (const OverflowFailure&) {
+        throw CommandFailure(file, "the style element of the page ends beyond character " + limit);
+    } catch (const UnclosedElementFailure&) {
+        throw CommandFailure(file, "the style element of the page doesn't end");
+    }
+}
+
+}  // namespace tintora::cli

@@ -1,0 +1,45 @@
+#include "linking/HtmlStyle.h"
+
+#include "linking/TextFiles.h"
+#include "text/LowerCase.h"
+#include "text/Narrowing.h"
+
+namespace tintora {
+
+namespace {
+
+constexpr TextView StyleOpening = u"<style";
+constexpr TextView StyleClosing = u"/style>";
+
+}  // namespace
+
+bool ContainsHTMLTags(TextView text) {
+    return FindLowered(text, u"<html") != TextView::npos && FindLowered(text, u"</html>") != TextView::npos;
+}
+
+bool IsHTMLFile(TextView path) { return ContainsHTMLTags(ReadTextFile(path)); }
+
+Text GetStyleElement(TextView text) {
+    const std::size_t start = FindLowered(text, StyleOpening);
+    if (start == TextView::npos)
+        return {};
+    const std::size_t closing = FindLowered(text, StyleClosing, start);
+    const std::size_t end = closing == TextView::npos ? StyleClosing.size() - 1 : closing + StyleClosing.size();
+    if (closing != TextView::npos)
+        static_cast<void>(Narrow(static_cast<long long>(end)));
+    if (end < start)
+        throw UnclosedElementFailure("the style element doesn't end");
+    return Text(text.substr(start, end - start));
+}
+
+Text ExtractStyleSheetText(TextView text) {
+    if (!ContainsHTMLTags(text))
+        return Text(text);
+    const Text element = GetStyleElement(text);
+    const std::size_t tagEnd = element.find(u'>');
+    const TextView content = TextView(element).substr(tagEnd == Text::npos ? 0 : tagEnd + 1);
+    const std::size_t closingTag = content.rfind(u'<');
+    return Text(content.substr(0, closingTag == TextView::npos ? 0 : closingTag));
+}
+
+}  // namespace tintora

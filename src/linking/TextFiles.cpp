@@ -1,0 +1,55 @@
+#include "linking/TextFiles.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+namespace tintora {
+
+namespace {
+
+constexpr std::size_t LargestFile = std::size_t{64} * 1024 * 1024;
+
+struct FileCloser {
+    void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+};
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+}  // namespace
+
+FileFailure::FileFailure(std::error_code code, TextView path) : std::system_error(code), path_(path) {}
+
+bool FileExists(TextView path) {
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(FileNameFromText(path), ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+Text ReadTextFile(TextView path) { return ReadDecodedFile(path).text; }
+
+DecodedText ReadDecodedFile(TextView path) {
+    if (!FileExists(path))
+        return {};
+    return DecodeBytes(ReadFileBytes(path));
+}
+
+std::string ReadFileBytes(TextView path) {
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(FileNameFromText(path).c_str(), "rb"));
+    if (!file)
+        throw FileFailure(LastError(), path);
+    std::string bytes;
+    std::array<char, 65536> buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file.get())) {
+        bytes.append(buffer.data(), count);
+        if (bytes.size() > LargestFile)
+            throw FileFailure(std::make_error_code(std::errc::file_too_large), path);
+    }
+    if (std::ferror(file.get()) != 0)
+        throw FileFailure(LastError(), path);
+    return bytes;
+}
+
+}  // namespace tintora

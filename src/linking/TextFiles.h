@@ -1,0 +1,36 @@
+#pragma once
+
+#include "text/Encoding.h"
+#include "text/Text.h"
+
+#include <string>
+#include <system_error>
+
+/// Whole files as text. Paths are texts as `TextFromFileName` makes them.
+namespace tintora {
+
+/// A file that exists and can't be read; `what()` is the system's reason.
+class FileFailure : public std::system_error {
+  public:
+    FileFailure(std::error_code code, TextView path);
+
+    [[nodiscard]] const Text& Path() const noexcept { return path_; }
+
+  private:
+    Text path_;
+};
+
+/// Whether the path names a file that exists: not a folder.
+[[nodiscard]] bool FileExists(TextView path);
+
+/// The text of a file; "" if it doesn't exist or is empty. Throws `FileFailure` for one that can't be read.
+[[nodiscard]] Text ReadTextFile(TextView path);
+
+/// As `ReadTextFile`, with the encoding that the file is in.
+[[nodiscard]] DecodedText ReadDecodedFile(TextView path);
+
+/// The bytes of a file. Throws `FileFailure` for a file that can't be read, also for one that doesn't exist, is a
+/// folder, or is larger than 64 MiB.
+[[nodiscard]] std::string ReadFileBytes(TextView path);
+
+}  // namespace tintora

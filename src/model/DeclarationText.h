@@ -1,0 +1,28 @@
+#pragma once
+
+#include "text/Text.h"
+
+/// The body of a statement and its declarations.
+///
+/// A body is what `ExtractProperties` gives, with its braces where the statement has a closing one. A declaration text
+/// is one piece of a body, trimmed; a comment in a body is one too. The two ways to split a body differ, and their
+/// callers rely on it.
+namespace tintora {
+
+/// The body of a statement: "" for `@media` and `@import`, a comment itself, from the first "{" on where there is a
+/// "}", else what follows the "{".
+[[nodiscard]] Text ExtractProperties(TextView statement);
+
+/// The declaration texts of a statement without their ";". A last declaration with no ";" isn't among them.
+[[nodiscard]] Texts ExtractPropertiesAsCollection(TextView statement);
+
+/// The declaration texts of a body, or of any text between braces, with their ";". A last declaration may have none.
+[[nodiscard]] Texts GetStatementProperties(TextView body);
+
+/// The trimmed text before the first ":"; a text without one unchanged.
+[[nodiscard]] Text GetPropertyName(TextView declaration);
+
+/// The trimmed text after the first ":", with any ";" that is on it; "" for a text without a ":".
+[[nodiscard]] Text GetPropertyValue(TextView declaration);
+
+}  // namespace tintora

@@ -1,0 +1,91 @@
+#include "model/StatementPositions.h"
+
+#include "model/MediaBlocks.h"
+#include "text/LowerCase.h"
+#include "text/Narrowing.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tintora {
+
+namespace {
+
+/// What one entry adds to the sum, and how many entries behind it are passed over with it.
+struct Step {
+    int length = 0;
+    int skipped = 0;
+};
+
+template <typename StepAt>
+StatementPlace Walk(const Texts& statements, int position, StepAt stepAt) {
+    static_cast<void>(Narrow(position));
+    StatementPlace place;
+    int sum = 0;
+    while (place.number <= std::ssize(statements)) {
+        const Step step = stepAt(TextView(statements[static_cast<std::size_t>(place.number - 1)]), sum);
+        sum += step.length;
+        place.number += step.skipped;
+        if (sum > position) {
+            place.stopped = true;
+            return place;
+        }
+        place.start = sum;
+        ++place.number;
+    }
+    return place;
+}
+
+int LengthOf(TextView text) { return static_cast<int>(text.size()); }
+
+int BareHeaderLength(TextView block) {
+    const std::size_t brace = block.find(u'{');
+    return brace == TextView::npos ? 0 : static_cast<int>(brace) + 1;
+}
+
+}  // namespace
+
+StatementPlace WalkToPosition(const Texts& statements, int position) {
+    return Walk(statements, position, [=](TextView statement, int sum) -> Step {
+        if (!MentionsMedia(statement))
+            return {LengthOf(statement), 0};
+        if (sum + LengthOf(statement) > position)
+            return {MediaHeaderLength(statement), 0};
+        return {LengthOf(statement), static_cast<int>(GetAtMediaStatements(statement).size())};
+    });
+}
+
+StatementPlace WalkIntoBlocks(const Texts& statements, int position, HeaderWhitespace whitespace) {
+    return Walk(statements, position, [=](TextView statement, int) -> Step {
+        if (!MentionsMedia(statement))
+            return {LengthOf(statement), 0};
+        const bool counts = whitespace == HeaderWhitespace::Counts;
+        return {counts ? MediaHeaderLength(statement) : BareHeaderLength(statement), 0};
+    });
+}
+
+Text StatementAround(TextView text, int position) {
+    const int length = NarrowLength(text);
+    const auto at = [&](int place, TextView token) {
+        return place >= 1 && HasLoweredAt(text, static_cast<std::size_t>(place - 1), token);
+    };
+    int start = 1;
+    for (int place = std::min(position, length + 1); place > 1 && start == 1; --place) {
+        if (at(place, u"}") || at(place, u"@import") || at(place - 1, u"*/"))
+            start = place + 1;
+    }
+    if (position <= 1)
+        start = 1;
+    int end = length;
+    for (int place = std::max(position, 1); place <= length; ++place) {
+        if (at(place, u"}") || at(place, u"*/")) {
+            end = place + (at(place, u"}") ? 1 : 2);
+            break;
+        }
+    }
+    if (start >= end)
+        return {};
+    return Text(text.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(end - start)));
+}
+
+}  // namespace tintora

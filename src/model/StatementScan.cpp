@@ -1,0 +1,145 @@
+#include "model/StatementScan.h"
+
+#include "model/MediaBlocks.h"
+#include "text/LowerCase.h"
+#include "text/Narrowing.h"
+#include "text/Whitespace.h"
+
+namespace tintora {
+
+namespace {
+
+class StatementScanner {
+  public:
+    StatementScanner(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace)
+        : text_(text), escapedQuote_(escapedQuote), whitespace_(whitespace) {}
+
+    Texts Scan() {
+        for (std::size_t index = 0; index < text_.size(); ++index)
+            Visit(index);
+        const TextView rest = text_.substr(start_);
+        if (!rest.empty() && !IsAllWhitespace(rest))
+            statements_.emplace_back(rest);
+        return std::move(statements_);
+    }
+
+  private:
+    /// The one step of the scan. No position is skipped, whatever an earlier one closed: the second character of a
+    /// token may begin the next, as in "/*/".
+    void Visit(std::size_t index) {
+        switch (text_[index]) {
+            case u'@': VisitAt(index); break;
+            case u'/': VisitSlash(index); break;
+            case u'*': VisitStar(index); break;
+            case u';': VisitSemicolon(index); break;
+            case u'{': VisitOpeningBrace(); break;
+            case u'}': VisitClosingBrace(index); break;
+            case u'\\': VisitBackslash(index); break;
+            case u'<': VisitCommentDelimiter(index, u"<!--"); break;
+            case u'-': VisitCommentDelimiter(index, u"-->"); break;
+            default: break;
+        }
+    }
+
+    // Neither comments nor rules keep these two words from switching the scan.
+    void VisitAt(std::size_t index) {
+        if (HasLoweredAt(text_, index, u"@import"))
+            inImport_ = true;
+        else if (HasLoweredAt(text_, index, u"@media"))
+            inMedia_ = true;
+    }
+
+    void VisitSlash(std::size_t index) {
+        if (!inRule_ && !inMedia_ && StandsAt(index, u"/*"))
+            inComment_ = true;
+    }
+
+    void VisitStar(std::size_t index) {
+        if (inComment_ && StandsAt(index, u"*/")) {
+            Close(index, 2);
+            inComment_ = false;
+        }
+    }
+
+    void VisitSemicolon(std::size_t index) {
+        if (inImport_) {
+            Close(index, 1);
+            inImport_ = false;
+        }
+        if (IsPlain())
+            quoteEscaped_ = false;
+    }
+
+    void VisitOpeningBrace() {
+        if (inMedia_)
+            ++mediaDepth_;
+        else if (IsPlain())
+            inRule_ = true;
+    }
+
+    void VisitClosingBrace(std::size_t index) {
+        if (inMedia_) {
+            --mediaDepth_;
+            // Only the step from 1 to 0 ends a block: a "}" that comes before any "{" makes the depth negative.
+            if (mediaDepth_ == 0)
+                CloseMediaBlock(index);
+        } else if (IsPlain() && !quoteEscaped_) {
+            Close(index, 1);
+            inRule_ = false;
+        }
+    }
+
+    void CloseMediaBlock(std::size_t index) {
+        Close(index, 1);
+        const Texts nested = GetAtMediaStatements(statements_.back());
+        statements_.insert(statements_.end(), nested.begin(), nested.end());
+        inMedia_ = false;
+    }
+
+    void VisitBackslash(std::size_t index) {
+        if (escapedQuote_ == EscapedQuote::Guards && IsPlain() && StandsAt(index, u"\\\""))
+            quoteEscaped_ = true;
+    }
+
+    // They end a statement inside of a rule as well, and the rule goes on.
+    void VisitCommentDelimiter(std::size_t index, TextView delimiter) {
+        if (IsPlain() && StandsAt(index, delimiter))
+            Close(index, delimiter.size());
+    }
+
+    [[nodiscard]] bool IsPlain() const { return !inMedia_ && !inComment_ && !inImport_; }
+
+    [[nodiscard]] bool StandsAt(std::size_t index, TextView token) const {
+        return text_.substr(index, token.size()) == token;
+    }
+
+    void Close(std::size_t index, std::size_t tokenLength) {
+        std::size_t end = index + tokenLength;
+        if (whitespace_ == WhitespaceBetween::TrailsTheFirst)
+            end = FindNonWhitespace(text_, end);
+        statements_.emplace_back(text_.substr(start_, end - start_));
+        start_ = end;
+    }
+
+    TextView text_;
+    EscapedQuote escapedQuote_;
+    WhitespaceBetween whitespace_;
+
+    Texts statements_;
+    std::size_t start_ = 0;
+    int mediaDepth_ = 0;
+    bool inImport_ = false;
+    bool inMedia_ = false;
+    bool inComment_ = false;
+    bool inRule_ = false;
+    bool quoteEscaped_ = false;
+};
+
+}  // namespace
+
+Texts ScanStatements(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace) {
+    static_cast<void>(NarrowLength(text));
+    return StatementScanner(text, escapedQuote, whitespace).Scan();
+}
+
+}  // namespace tintora

@@ -1,0 +1,21 @@
+#include "settings/FileAssociation.h"
+
+#include "text/Whitespace.h"
+
+namespace tintora {
+
+namespace {
+
+constexpr TextView StyleSheetType = u"text/css";
+constexpr TextView DesktopFile = u"tintora.desktop";
+
+}  // namespace
+
+bool IsDefaultCSSEditor(const DesktopAssociations& desktop) {
+    const std::optional<Text> current = desktop.QueryDefault(StyleSheetType);
+    return !current || TrimmedView(*current) == DesktopFile;
+}
+
+void MakeDefaultCSSEditor(DesktopAssociations& desktop) { desktop.SetDefault(StyleSheetType, DesktopFile); }
+
+}  // namespace tintora
