@@ -16,12 +16,12 @@ std::size_t IndexBehindBrace(TextView block) {
     return brace == TextView::npos ? 0 : brace + 1;
 }
 
-Texts NestedStatements(TextView block, WhitespaceAfter whitespace) {
+std::vector<NestedPlace> NestedPlaces(TextView block, WhitespaceAfter whitespace) {
     static_cast<void>(NarrowLength(block));
     const auto endAt = [&](std::size_t index) {
         return whitespace == WhitespaceAfter::BelongsToStatement ? FindNonWhitespace(block, index) : index;
     };
-    Texts statements;
+    std::vector<NestedPlace> places;
     std::size_t start = endAt(IndexBehindBrace(block));
     bool inComment = false;
     bool inRule = false;
@@ -31,7 +31,7 @@ Texts NestedStatements(TextView block, WhitespaceAfter whitespace) {
             inComment = true;
         if (inComment && pair == u"*/") {
             const std::size_t end = endAt(index + 2);
-            statements.emplace_back(block.substr(start, end - start));
+            places.push_back({start, end - start});
             start = end;
             inComment = false;
         }
@@ -41,21 +41,34 @@ Texts NestedStatements(TextView block, WhitespaceAfter whitespace) {
             inRule = true;
         if (block[index] == u'}') {
             const std::size_t end = endAt(index + 1);
-            const TextView statement = block.substr(start, end - start);
-            if (TrimmedView(statement) != u"}")
-                statements.emplace_back(statement);
+            if (TrimmedView(block.substr(start, end - start)) != u"}")
+                places.push_back({start, end - start});
             start = end;
             inRule = false;
         }
     }
+    return places;
+}
+
+Texts StatementsAt(TextView block, const std::vector<NestedPlace>& places) {
+    Texts statements;
+    statements.reserve(places.size());
+    for (const NestedPlace& place : places)
+        statements.emplace_back(block.substr(place.start, place.length));
     return statements;
 }
 
 }  // namespace
 
-Texts GetAtMediaStatements(TextView block) { return NestedStatements(block, WhitespaceAfter::BelongsToStatement); }
+Texts GetAtMediaStatements(TextView block) { return StatementsAt(block, FindAtMediaStatements(block)); }
 
-Texts GetAtMediaStatements1(TextView block) { return NestedStatements(block, WhitespaceAfter::IsNotSkipped); }
+std::vector<NestedPlace> FindAtMediaStatements(TextView block) {
+    return NestedPlaces(block, WhitespaceAfter::BelongsToStatement);
+}
+
+Texts GetAtMediaStatements1(TextView block) {
+    return StatementsAt(block, NestedPlaces(block, WhitespaceAfter::IsNotSkipped));
+}
 
 int MediaHeaderLength(TextView block) {
     return SkipWhitespaceForward(block, static_cast<int>(IndexBehindBrace(block)) + 1) - 1;

@@ -51,7 +51,7 @@ StatementPlace WalkToPosition(const Texts& statements, int position) {
             return {LengthOf(statement), 0};
         if (sum + LengthOf(statement) > position)
             return {MediaHeaderLength(statement), 0};
-        return {LengthOf(statement), static_cast<int>(GetAtMediaStatements(statement).size())};
+        return {LengthOf(statement), static_cast<int>(FindAtMediaStatements(statement).size())};
     });
 }
 

@@ -14,13 +14,13 @@ class StatementScanner {
     StatementScanner(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace)
         : text_(text), escapedQuote_(escapedQuote), whitespace_(whitespace) {}
 
-    Texts Scan() {
+    ScannedStatements Scan() {
         for (std::size_t index = 0; index < text_.size(); ++index)
             Visit(index);
         const TextView rest = text_.substr(start_);
         if (!rest.empty() && !IsAllWhitespace(rest))
-            statements_.emplace_back(rest);
-        return std::move(statements_);
+            Append(start_, rest.size(), false);
+        return std::move(scanned_);
     }
 
   private:
@@ -90,9 +90,10 @@ class StatementScanner {
     }
 
     void CloseMediaBlock(std::size_t index) {
+        const std::size_t block = start_;
         Close(index, 1);
-        const Texts nested = GetAtMediaStatements(statements_.back());
-        statements_.insert(statements_.end(), nested.begin(), nested.end());
+        for (const NestedPlace& place : FindAtMediaStatements(text_.substr(block, start_ - block)))
+            Append(block + place.start, place.length, true);
         inMedia_ = false;
     }
 
@@ -117,15 +118,20 @@ class StatementScanner {
         std::size_t end = index + tokenLength;
         if (whitespace_ == WhitespaceBetween::TrailsTheFirst)
             end = FindNonWhitespace(text_, end);
-        statements_.emplace_back(text_.substr(start_, end - start_));
+        Append(start_, end - start_, false);
         start_ = end;
+    }
+
+    void Append(std::size_t start, std::size_t length, bool isNested) {
+        scanned_.statements.emplace_back(text_.substr(start, length));
+        scanned_.origins.push_back({start, isNested});
     }
 
     TextView text_;
     EscapedQuote escapedQuote_;
     WhitespaceBetween whitespace_;
 
-    Texts statements_;
+    ScannedStatements scanned_;
     std::size_t start_ = 0;
     int mediaDepth_ = 0;
     bool inImport_ = false;
@@ -137,9 +143,13 @@ class StatementScanner {
 
 }  // namespace
 
-Texts ScanStatements(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace) {
+ScannedStatements ScanStatementsWithOrigins(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace) {
     static_cast<void>(NarrowLength(text));
     return StatementScanner(text, escapedQuote, whitespace).Scan();
+}
+
+Texts ScanStatements(TextView text, EscapedQuote escapedQuote, WhitespaceBetween whitespace) {
+    return ScanStatementsWithOrigins(text, escapedQuote, whitespace).statements;
 }
 
 }  // namespace tintora

@@ -2,6 +2,9 @@
 
 #include "text/Text.h"
 
+#include <cstddef>
+#include <vector>
+
 /// The scan that cuts the text of a style sheet into statements.
 ///
 /// It is one forgiving pass that rejects nothing, and it isn't the grammar of CSS: a "}" ends a statement whether a "{"
@@ -19,11 +22,29 @@ enum class EscapedQuote { Guards, IsPlain };
 /// Which statement the white space between two statements belongs to.
 enum class WhitespaceBetween { TrailsTheFirst, LeadsTheSecond };
 
+/// Where an entry stood in the text, and whether it is nested in the block in front of it.
+struct StatementOrigin {
+    std::size_t start = 0;
+    bool isNested = false;
+
+    friend bool operator==(const StatementOrigin&, const StatementOrigin&) = default;
+};
+
+/// Statements with their origins, one for each.
+struct ScannedStatements {
+    Texts statements;
+    std::vector<StatementOrigin> origins;
+};
+
 /// The statements of `text` in their order. An `@media` block is one statement, directly followed by those that are
-/// nested in it. Leaving these out, the statements joined give the text; only white space at the end of a text may be
-/// missing then, where it would be a statement of its own.
+/// nested in it. Leaving these out, the statements joined give the text; a text of white space has no statement.
 ///
 /// Throws `OverflowFailure` for a text beyond the length limit.
+[[nodiscard]] ScannedStatements ScanStatementsWithOrigins(
+    TextView text, EscapedQuote escapedQuote = EscapedQuote::Guards,
+    WhitespaceBetween whitespace = WhitespaceBetween::TrailsTheFirst);
+
+/// The same without the origins.
 [[nodiscard]] Texts ScanStatements(TextView text, EscapedQuote escapedQuote = EscapedQuote::Guards,
                                    WhitespaceBetween whitespace = WhitespaceBetween::TrailsTheFirst);
 
