@@ -295,10 +295,11 @@ int PropertyNumberFromName(TextView name) noexcept {
 }
 
 TextView PropertyNameFromNumber(int number) noexcept {
-    const int index = number - FirstNamedProperty;
-    if (index < 0 || index >= std::ssize(PropertyNames) || PropertyNames[static_cast<std::size_t>(index)].empty())
-        return u"generic";
-    return PropertyNames[static_cast<std::size_t>(index)];
+    constexpr TextView Unknown = u"generic";
+    if (number < FirstNamedProperty || number - FirstNamedProperty >= std::ssize(PropertyNames))
+        return Unknown;
+    const TextView name = PropertyNames[static_cast<std::size_t>(number - FirstNamedProperty)];
+    return name.empty() ? Unknown : name;
 }
 
 Texts GetPossibleValues(int number, const FrontDocument* front) {

@@ -21,8 +21,9 @@ class UnclosedElementFailure : public std::invalid_argument {
 
 /// The text of the first `style` element with its tags, as it stands; "" if there is none.
 ///
-/// Throws `UnclosedElementFailure` where no "/style>" follows (but within the first seven characters of the text the
-/// element is what precedes the eighth), and `OverflowFailure` where the element ends beyond the limit of positions.
+/// Throws `UnclosedElementFailure` where no "/style>" follows (but an element that starts within the first seven
+/// characters of the text is what precedes the seventh), and `OverflowFailure` where the element ends beyond the limit
+/// of positions.
 [[nodiscard]] Text GetStyleElement(TextView text);
 
 /// The style sheet in a page: the content of its first `style` element, "" if it has none. A text that is no page comes

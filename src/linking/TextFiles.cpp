@@ -16,6 +16,9 @@ struct FileCloser {
     void operator()(std::FILE* file) const noexcept { std::fclose(file); }
 };
 
+/// The system would take such a path for the part of it in front of the NUL.
+bool HoldsNul(TextView path) { return path.find(u'\0') != TextView::npos; }
+
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
 }  // namespace
@@ -23,6 +26,8 @@ std::error_code LastError() { return {errno, std::generic_category()}; }
 FileFailure::FileFailure(std::error_code code, TextView path) : std::system_error(code), path_(path) {}
 
 bool FileExists(TextView path) {
+    if (HoldsNul(path))
+        return false;
     std::error_code ignored;
     const std::filesystem::file_status status = std::filesystem::status(FileNameFromText(path), ignored);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
@@ -37,6 +42,8 @@ DecodedText ReadDecodedFile(TextView path) {
 }
 
 std::string ReadFileBytes(TextView path) {
+    if (HoldsNul(path))
+        throw FileFailure(std::make_error_code(std::errc::no_such_file_or_directory), path);
     const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(FileNameFromText(path).c_str(), "rb"));
     if (!file)
         throw FileFailure(LastError(), path);

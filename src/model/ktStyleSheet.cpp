@@ -31,40 +31,44 @@ Text ktStyleSheet::GetStyleSheetText() const {
 }
 
 void ktStyleSheet::CacheStatements(TextView text) {
-    cachedStatements_ = ScanStatements(text.empty() ? TextView(GetStyleSheetText()) : text);
+    cachedStatements_ = ScanStatementsWithOrigins(text.empty() ? TextView(GetStyleSheetText()) : text);
+}
+
+StatementOrigin ktStyleSheet::GetStatementOrigin(int number) const {
+    return cachedStatements_.origins.at(static_cast<std::size_t>(number) - 1);
 }
 
 Texts ktStyleSheet::GetAllStatementsAsText() const {
     Texts statements;
-    statements.reserve(cachedStatements_.size());
-    std::transform(cachedStatements_.begin(), cachedStatements_.end(), std::back_inserter(statements), TrimWhitespace);
+    statements.reserve(GetAllStatementsAsTextUnstripped().size());
+    std::ranges::transform(GetAllStatementsAsTextUnstripped(), std::back_inserter(statements), TrimWhitespace);
     return statements;
 }
 
 bool ktStyleSheet::HasEntry(int n) const {
     if (n < -1)
         throw std::out_of_range("a statement is asked for by a negative number");
-    return n != -1 && n < std::ssize(cachedStatements_);
+    return n != -1 && n < std::ssize(GetAllStatementsAsTextUnstripped());
 }
 
 Text ktStyleSheet::getNthStatementAsTextUnstripped(int n) const {
-    return HasEntry(n) ? cachedStatements_[static_cast<std::size_t>(n)] : Text();
+    return HasEntry(n) ? GetAllStatementsAsTextUnstripped()[static_cast<std::size_t>(n)] : Text();
 }
 
 Text ktStyleSheet::getNthStatementAsText(int n) const {
-    return HasEntry(n) ? TrimWhitespace(cachedStatements_[static_cast<std::size_t>(n)]) : Text();
+    return HasEntry(n) ? TrimWhitespace(GetAllStatementsAsTextUnstripped()[static_cast<std::size_t>(n)]) : Text();
 }
 
 Texts ktStyleSheet::GetAtMediaStatements(TextView block) const { return tintora::GetAtMediaStatements(block); }
 
 int ktStyleSheet::GetStatementNumber(int position) const {
-    const StatementPlace place = WalkToPosition(cachedStatements_, position);
+    const StatementPlace place = WalkToPosition(GetAllStatementsAsTextUnstripped(), position);
     return place.stopped ? place.number : place.number - 1;
 }
 
 int ktStyleSheet::GetStatementStartChar(int position) const {
-    const StatementPlace place = WalkToPosition(cachedStatements_, position);
-    if (place.number > std::ssize(cachedStatements_))
+    const StatementPlace place = WalkToPosition(GetAllStatementsAsTextUnstripped(), position);
+    if (place.number > std::ssize(GetAllStatementsAsTextUnstripped()))
         return GetNthStatementStartChar(place.number - 1);
     return place.start;
 }
@@ -86,8 +90,8 @@ Text ktStyleSheet::ExtractSelector(TextView statement) const { return tintora::E
 
 Texts ktStyleSheet::GetAllSelectorsAsText() const {
     Texts selectors;
-    selectors.reserve(cachedStatements_.size());
-    for (const Text& statement : cachedStatements_)
+    selectors.reserve(GetAllStatementsAsTextUnstripped().size());
+    for (const Text& statement : GetAllStatementsAsTextUnstripped())
         selectors.push_back(tintora::ExtractSelector(TrimmedView(statement)));
     return selectors;
 }
@@ -116,9 +120,10 @@ Texts ktStyleSheet::ExtractPropertiesAsCollection(TextView statement) const {
 }
 
 Texts ktStyleSheet::GetPropertiesFromNthStatementAsCollection(int n) const {
-    if (n < 1 || n > std::ssize(cachedStatements_))
+    if (n < 1 || n > std::ssize(GetAllStatementsAsTextUnstripped()))
         throw std::out_of_range("there is no statement of that number");
-    return tintora::ExtractPropertiesAsCollection(TrimmedView(cachedStatements_[static_cast<std::size_t>(n - 1)]));
+    return tintora::ExtractPropertiesAsCollection(
+        TrimmedView(GetAllStatementsAsTextUnstripped()[static_cast<std::size_t>(n - 1)]));
 }
 
 Texts ktStyleSheet::GetStatementProperties(TextView body) const { return tintora::GetStatementProperties(body); }
@@ -129,9 +134,9 @@ Text ktStyleSheet::GetPropertyValue(TextView declaration) const { return tintora
 
 Text ktStyleSheet::getPropertyFromSelection(int position) const {
     const int number = GetStatementNumber(position);
-    if (number < 1 || number > std::ssize(cachedStatements_))
+    if (number < 1 || number > std::ssize(GetAllStatementsAsTextUnstripped()))
         return {};
-    const TextView statement = cachedStatements_[static_cast<std::size_t>(number - 1)];
+    const TextView statement = GetAllStatementsAsTextUnstripped()[static_cast<std::size_t>(number - 1)];
     int start = GetStatementStartChar(position);
     if (start == 1)
         start = 0;
@@ -178,12 +183,12 @@ Texts ktStyleSheet::GetAllStatementsAsTextUnstrippedLeading() const {
 }
 
 int ktStyleSheet::GetStatementNumber1(int position) const {
-    const StatementPlace place = WalkIntoBlocks(cachedStatements_, position, HeaderWhitespace::Counts);
+    const StatementPlace place = WalkIntoBlocks(GetAllStatementsAsTextUnstripped(), position, HeaderWhitespace::Counts);
     return place.stopped ? place.number : place.number - 1;
 }
 
 int ktStyleSheet::GetStatementStartChar1(int position) const {
-    return WalkIntoBlocks(cachedStatements_, position, HeaderWhitespace::DoesNotCount).start;
+    return WalkIntoBlocks(GetAllStatementsAsTextUnstripped(), position, HeaderWhitespace::DoesNotCount).start;
 }
 
 Texts ktStyleSheet::GetAtMediaStatements1(TextView block) const { return tintora::GetAtMediaStatements1(block); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/StatementScan.h"
 #include "model/StyleSheetTextSource.h"
 #include "text/Text.h"
 
@@ -48,7 +49,13 @@ class ktStyleSheet {
     /// The cache itself. Each statement keeps the white space behind it; the first also keeps what is in front of it.
     /// An
     /// `@media` block is followed by its nested statements, as entries of their own.
-    [[nodiscard]] const Texts& GetAllStatementsAsTextUnstripped() const noexcept { return cachedStatements_; }
+    [[nodiscard]] const Texts& GetAllStatementsAsTextUnstripped() const noexcept {
+        return cachedStatements_.statements;
+    }
+
+    /// Where statement `number` (1-based) stood in the text at the last scan; throws `std::out_of_range` for a number
+    /// that no entry has.
+    [[nodiscard]] StatementOrigin GetStatementOrigin(int number) const;
 
     /// The entries, each trimmed.
     [[nodiscard]] Texts GetAllStatementsAsText() const;
@@ -160,7 +167,7 @@ class ktStyleSheet {
 
     Text file_;
     StyleSheetTextSource* window_ = nullptr;
-    Texts cachedStatements_;
+    ScannedStatements cachedStatements_;
 };
 
 }  // namespace tintora

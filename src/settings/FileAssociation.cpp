@@ -13,7 +13,7 @@ constexpr TextView DesktopFile = u"tintora.desktop";
 
 bool IsDefaultCSSEditor(const DesktopAssociations& desktop) {
     const std::optional<Text> current = desktop.QueryDefault(StyleSheetType);
-    return !current || TrimmedView(*current) == DesktopFile;
+    return !current || StripRightWhitespace(*current) == DesktopFile;
 }
 
 void MakeDefaultCSSEditor(DesktopAssociations& desktop) { desktop.SetDefault(StyleSheetType, DesktopFile); }

@@ -20,7 +20,7 @@ class DesktopAssociations {
 };
 
 /// Whether this program is the default editor of style sheets; true where the desktop keeps no such choice, so that
-/// nothing is asked there. The comparison is exact.
+/// nothing is asked there. The comparison is exact, white space behind the name aside.
 [[nodiscard]] bool IsDefaultCSSEditor(const DesktopAssociations& desktop);
 
 /// Makes this program the default editor of style sheets.

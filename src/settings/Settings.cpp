@@ -5,6 +5,7 @@
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace tintora {
@@ -68,9 +69,10 @@ void Settings::SaveAutoSelectEditors(int value) { Save(setting::AutoSelectEditor
 
 float Settings::GetTwips(const SettingKey& key) const {
     const Text value = Get(key);
-    if (!IsNumeric(value))
+    const double number = LeadingNumber(value);
+    if (!IsNumeric(value) || std::abs(number) > std::numeric_limits<float>::max())
         throw Malformed(key, value);
-    return static_cast<float>(LeadingNumber(value));
+    return static_cast<float>(number);
 }
 
 WindowPlace Settings::GetWindowPlace() const {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <charconv>
+#include <limits>
 #include <string>
 
 namespace tintora {
@@ -44,6 +45,14 @@ std::size_t NumberLength(TextView text) {
     return digits == 0 ? 0 : length + ExponentLength(text.substr(length));
 }
 
+/// Whether a number that no double holds is too large for one, and not too small.
+bool IsTooLarge(std::string_view number) {
+    const std::size_t exponent = number.find_first_of("eE");
+    if (exponent != std::string_view::npos)
+        return number.find('-', exponent) == std::string_view::npos;
+    return number.substr(0, number.find('.')).find_first_of("123456789") != std::string_view::npos;
+}
+
 template <typename Number>
 Text ConvertedNumber(Number number) {
     std::array<char, 400> buffer{};
@@ -73,7 +82,9 @@ double LeadingNumber(TextView text) {
         number.remove_prefix(1);
     const std::string digits(number.begin(), number.end());
     double value = 0;
-    std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (result.ec == std::errc::result_out_of_range && IsTooLarge(digits))
+        value = digits.starts_with('-') ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
     return value;
 }
 

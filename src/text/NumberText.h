@@ -12,7 +12,8 @@ namespace tintora {
 [[nodiscard]] Text NumberText(double number);
 
 /// The number that `text` begins with: optional white space and sign, then digits with at most one decimal point, and
-/// an exponent where digits follow it. What comes behind is ignored ("12px" is 12); 0 where no number stands.
+/// an exponent where digits follow it. What comes behind is ignored ("12px" is 12); 0 where no number stands. One that
+/// is too large is the largest that there is.
 [[nodiscard]] double LeadingNumber(TextView text);
 
 /// Whether the whole of `text` is a number: an optional sign, digits with at most one decimal point and at least one

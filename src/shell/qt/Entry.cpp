@@ -1,0 +1,93 @@
+#include "shell/qt/Entry.h"
+
+#include "language/ValueLists.h"
+#include "settings/Settings.h"
+#include "settings/qt/IniSettingsStore.h"
+#include "shell/CommandLine.h"
+#include "shell/qt/Application.h"
+#include "shell/qt/InstanceLock.h"
+#include "shell/qt/MessageHook.h"
+#include "shell/qt/PreviousInstance.h"
+#include "shell/qt/frmMain.h"
+#include "text/Encoding.h"
+
+#include <cstdio>
+
+namespace tintora {
+
+namespace {
+
+constexpr int ExitUnanswered = 1;
+
+Texts Arguments(int argc, char** argv) {
+    Texts arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.push_back(TextFromFileName(argv[index]));
+    return arguments;
+}
+
+void PrintHelp() {
+    std::puts(
+        "Usage: tintora [FILE]\n"
+        "Opens a style sheet, or the one that is embedded in an HTML page. Where the editor is running already,\n"
+        "the file opens there.\n\n"
+        "  --help     prints this\n"
+        "  --version  prints the version");
+}
+
+/// There is no wizard for the first run: it begins with a new style sheet.
+void CompleteSetup(SettingsStore& store, frmMain& window, TextView file) {
+    Settings settings(store);
+    if (settings.GetSetupWizardCompleted())
+        return;
+    settings.SetSetupWizardCompleted(true);
+    if (file.empty())
+        window.LoadNewDoc();
+}
+
+int RunFirstInstance(Application& application, SettingsStore& store, TextView file) {
+    SetUpValueLists();
+    frmMain window(store);
+    application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
+                                   [&](const QString& what) { window.ReportFault(what); });
+    window.LoadStep(file);
+    window.show();
+    CompleteSetup(store, window, file);
+    const MessageHook hook(InstanceLock::UserFolder(), store, [&](const Text& path) {
+        if (!path.empty())
+            window.OpenOneStyleSheet(path);
+        window.BringToFront();
+    });
+    const int status = Application::exec();
+    application.SetFailureHandlers({}, {});
+    return status;
+}
+
+}  // namespace
+
+int RunEditor(int argc, char** argv) {
+    const Texts arguments = Arguments(argc, argv);
+    switch (GetCommandLineRequest(arguments)) {
+        case CommandLineRequest::ShowHelp: PrintHelp(); return 0;
+        case CommandLineRequest::ShowVersion: std::puts("tintora " TINTORA_VERSION); return 0;
+        case CommandLineRequest::OpenFile: break;
+    }
+    const Text file = AbsolutePath(GetCommandLineFile(arguments));
+    IniSettingsStore store(IniSettingsStore::UserFolder());
+    InstanceLock lock(InstanceLock::UserFolder());
+    if (!lock.TryToTake()) {
+        // It talks to the running instance and ends, which needs no display.
+        const QCoreApplication sender(argc, argv);
+        PreviousInstance previous(InstanceLock::UserFolder(), store);
+        if (previous.FindPreviousInstance(lock)) {
+            if (previous.SendFileToInstance(file))
+                return 0;
+            std::fputs("tintora: the running instance doesn't answer\n", stderr);
+            return ExitUnanswered;
+        }
+    }
+    Application application(argc, argv);
+    return RunFirstInstance(application, store, file);
+}
+
+}  // namespace tintora

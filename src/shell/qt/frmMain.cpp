@@ -1,0 +1,340 @@
+#include "shell/qt/frmMain.h"
+
+#include "linking/HtmlStyle.h"
+#include "linking/TextFiles.h"
+#include "shell/CommandLine.h"
+#include "shell/qt/Actions.h"
+#include "shell/qt/FormStrings.h"
+#include "shell/qt/StatementList.h"
+#include "shell/qt/StyleSheetPane.h"
+#include "shell/qt/UserMessages.h"
+#include "text/Narrowing.h"
+#include "text/qt/QtText.h"
+
+#include <Qsci/qsciscintilla.h>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <algorithm>
+#include <cmath>
+
+namespace tintora {
+
+namespace {
+
+constexpr float TwipsPerPixel = 15;
+constexpr int StatementsWidth = 200;
+
+/// Pixels of a stored place; what is larger than any screen is cut.
+int Pixels(float twips) {
+    constexpr float Most = 32767;
+    return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -Most, Most)));
+}
+
+constexpr auto OpenFilter = "Style Sheets (*.css);;HTML Files (*.htm *.html);;Text (*.txt);;All Files (*)";
+
+}  // namespace
+
+frmMain::frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages)
+    : settings_(store),
+      messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
+      documents_(new QTabWidget(this)),
+      statements_(new StatementList(this)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Tintora"));
+    setAcceptDrops(true);
+    SetUpPanes();
+    SetUpActions();
+    statusBar();
+    LoadFormStrings(*this);
+}
+
+frmMain::~frmMain() {
+    // The panes go with the window; none of them is worth following on the way.
+    statements_->Follow(nullptr);
+    documents_->disconnect(this);
+}
+
+void frmMain::SetUpPanes() {
+    documents_->setDocumentMode(true);
+    documents_->setTabsClosable(true);
+    documents_->setMovable(true);
+    documents_->setAccessibleName(QStringLiteral("Open style sheets"));
+    setCentralWidget(documents_);
+    connect(documents_, &QTabWidget::tabCloseRequested, this, &frmMain::ClosePane);
+    connect(documents_, &QTabWidget::currentChanged, this, &frmMain::PaneActivated);
+
+    auto* const dock = new QDockWidget(QStringLiteral("Statements"), this);
+    dock->setObjectName(QStringLiteral("dwSelectorsEditor"));
+    dock->setWidget(statements_);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    resizeDocks({dock}, {StatementsWidth}, Qt::Horizontal);
+}
+
+void frmMain::SetUpActions() {
+    QToolBar* const standard = addToolBar(QStringLiteral("Standard"));
+    standard->setObjectName(QStringLiteral("Standard"));
+    standard->setIconSize({22, 22});
+    standard->setMovable(false);
+
+    const auto add = [this](QMenu* menu, const ActionLook& look, auto onTriggered) {
+        QAction* const action = MakeAction(look, this);
+        connect(action, &QAction::triggered, this, onTriggered);
+        menu->addAction(action);
+        return action;
+    };
+    const auto onEditor = [this](void (QsciScintilla::*edit)()) {
+        return [this, edit] {
+            if (StyleSheetPane* const pane = ActiveDocument())
+                (pane->Editor().*edit)();
+        };
+    };
+
+    QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
+    standard->addAction(add(file, {"miFNew", "&New", "document-new", QKeySequence::New, "Opens a new style sheet"},
+                            [this] { LoadNewDoc(); }));
+    standard->addAction(add(file,
+                            {"miFOpen", "&Open…", "document-open", QKeySequence::Open,
+                             "Opens a style sheet, or the one that is embedded in a page"},
+                            [this] { AskForStyleSheet(); }));
+    add(file, {"miFCloseWindow", "&Close", "document-close", QKeySequence::Close, "Closes the style sheet"},
+        [this] { ClosePane(documents_->currentIndex()); });
+    file->addSeparator();
+    add(file, {"miFExit", "&Quit", "application-exit", QKeySequence(Qt::CTRL | Qt::Key_Q), "Closes all style sheets"},
+        [this] { close(); });
+
+    standard->addSeparator();
+    QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    standard->addAction(add(edit, {"miEUndo", "&Undo", "edit-undo", QKeySequence::Undo, "Takes the last change back"},
+                            onEditor(&QsciScintilla::undo)));
+    standard->addAction(add(edit, {"miERedo", "&Redo", "edit-redo", QKeySequence::Redo, "Makes the change again"},
+                            onEditor(&QsciScintilla::redo)));
+    edit->addSeparator();
+    standard->addSeparator();
+    standard->addAction(add(edit,
+                            {"miECut", "Cu&t", "edit-cut", QKeySequence::Cut, "Moves the selection to the clipboard"},
+                            onEditor(&QsciScintilla::cut)));
+    standard->addAction(add(edit, {"miECopy", "&Copy", "edit-copy", QKeySequence::Copy, "Copies the selection"},
+                            onEditor(&QsciScintilla::copy)));
+    standard->addAction(add(edit, {"miEPaste", "&Paste", "edit-paste", QKeySequence::Paste, "Inserts the clipboard"},
+                            onEditor(&QsciScintilla::paste)));
+    edit->addSeparator();
+    add(edit, {"miESelectAll", "Select &All", "edit-select-all", QKeySequence::SelectAll, "Selects the whole text"},
+        [this] {
+            if (StyleSheetPane* const pane = ActiveDocument())
+                pane->Editor().selectAll();
+        });
+
+    QMenu* const window = menuBar()->addMenu(QStringLiteral("&Window"));
+    QAction* const showStatements = findChild<QDockWidget*>(QStringLiteral("dwSelectorsEditor"))->toggleViewAction();
+    showStatements->setObjectName(QStringLiteral("miWSelectorsEditor"));
+    showStatements->setText(QStringLiteral("&Statements"));
+    showStatements->setStatusTip(QStringLiteral("Shows or hides the list of statements"));
+    window->addAction(showStatements);
+}
+
+void frmMain::LoadStep(TextView file) {
+    const auto run = [this](auto step) {
+        try {
+            step();
+        } catch (const OverflowFailure&) {
+            ReportOverflow();
+        } catch (const std::exception&) {
+            // A damaged setting doesn't keep the window from coming up.
+        }
+    };
+    run([this] { SetLocation(); });
+    run([&] {
+        if (!file.empty())
+            OpenOneStyleSheet(file);
+        else if (settings_.GetSetupWizardCompleted())
+            LoadNewDoc();
+    });
+}
+
+void frmMain::SetLocation() {
+    if (settings_.GetMaximized()) {
+        setWindowState(windowState() | Qt::WindowMaximized);
+        return;
+    }
+    const WindowPlace place = settings_.GetWindowPlace();
+    move(Pixels(place.left), Pixels(place.top));
+    resize(Pixels(place.width), Pixels(place.height));
+}
+
+void frmMain::SaveLocationOnClose() {
+    if (isMinimized())
+        return;
+    const auto twips = [](int pixels) { return static_cast<float>(pixels) * TwipsPerPixel; };
+    settings_.SaveWindowPlace({twips(x()), twips(y()), twips(width()), twips(height())});
+    settings_.SaveMaximized(isMaximized());
+}
+
+StyleSheetPane* frmMain::ActiveDocument() const { return qobject_cast<StyleSheetPane*>(documents_->currentWidget()); }
+
+void frmMain::AskForStyleSheet() {
+    const QString folder = ActiveDocument() == nullptr ? QDir::currentPath()
+                                                       : QFileInfo(ToQString(ActiveDocument()->File())).absolutePath();
+    const QString chosen =
+        QFileDialog::getOpenFileName(this, QStringLiteral("Open"), folder, QString::fromUtf8(OpenFilter));
+    if (!chosen.isEmpty())
+        OpenOneStyleSheet(ToText(chosen));
+}
+
+void frmMain::OpenOneStyleSheet(TextView path) {
+    if (!FileExists(path))
+        return;
+    const auto open = std::find_if(openDocuments_.begin(), openDocuments_.end(),
+                                   [=](const StyleSheetPane* pane) { return pane->File() == path; });
+    if (open != openDocuments_.end()) {
+        documents_->setCurrentWidget(*open);
+        return;
+    }
+    StyleSheetPane* const pane = OpenNewStyleSheet();
+    try {
+        LoadInto(*pane, path);
+    } catch (const FileFailure& failure) {
+        RemovePane(pane);
+        messages_->Tell(QStringLiteral("\"%1\" can't be opened.").arg(ToQString(path)),
+                        QString::fromStdString(failure.code().message()) + QLatin1Char('.'));
+    } catch (const UnclosedElementFailure&) {
+        RemovePane(pane);
+        messages_->Tell(QStringLiteral("The style sheet in \"%1\" can't be opened.").arg(ToQString(path)),
+                        QStringLiteral("The style element of the page doesn't end."));
+    }
+}
+
+void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
+    try {
+        pane.OpenStyleSheet(path);
+    } catch (const OverflowFailure&) {
+        // The text is in the editor, and only its statements are missing.
+        UpdateCaption(&pane);
+        throw;
+    }
+    UpdateCaption(&pane);
+}
+
+StyleSheetPane* frmMain::OpenNewStyleSheet() {
+    ++newDocumentCount_;
+    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_));
+    connect(pane, &StyleSheetPane::DirtyChanged, this, [this, pane] { UpdateCaption(pane); });
+    connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
+    openDocuments_.insert(openDocuments_.begin(), pane);
+    documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
+    UpdateCaption(pane);
+    pane->setFocus();
+    return pane;
+}
+
+void frmMain::LoadNewDoc() { OpenNewStyleSheet(); }
+
+void frmMain::PaneActivated() {
+    StyleSheetPane* const pane = ActiveDocument();
+    const auto place = std::find(openDocuments_.begin(), openDocuments_.end(), pane);
+    if (place != openDocuments_.end())
+        std::rotate(openDocuments_.begin(), place, place + 1);
+    statements_->Follow(pane);
+    UpdateCaption(pane);
+}
+
+void frmMain::UpdateCaption(const StyleSheetPane* pane) {
+    if (pane != nullptr) {
+        const int index = documents_->indexOf(pane);
+        documents_->setTabText(index, pane->Caption() + (pane->IsDirty() ? QStringLiteral("*") : QString()));
+        documents_->setTabToolTip(index, ToQString(pane->File()));
+    }
+    const StyleSheetPane* const front = ActiveDocument();
+    setWindowTitle(front == nullptr ? QStringLiteral("Tintora") : front->Caption() + QStringLiteral("[*] — Tintora"));
+    setWindowModified(front != nullptr && front->IsDirty());
+}
+
+bool frmMain::MayClose(const StyleSheetPane& pane) {
+    return !pane.IsDirty() || messages_->MayDiscardChanges(pane.Caption());
+}
+
+void frmMain::ClosePane(int index) {
+    auto* const pane = qobject_cast<StyleSheetPane*>(documents_->widget(index));
+    if (pane != nullptr && MayClose(*pane))
+        RemovePane(pane);
+}
+
+void frmMain::RemovePane(StyleSheetPane* pane) {
+    std::erase(openDocuments_, pane);
+    reportedAsTooLong_.erase(pane);
+    statements_->Follow(nullptr);
+    documents_->removeTab(documents_->indexOf(pane));
+    pane->deleteLater();
+    PaneActivated();
+}
+
+void frmMain::BringToFront() {
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+void frmMain::ReportOverflow() {
+    const QLocale english(QLocale::English);
+    for (const StyleSheetPane* const pane : std::vector(openDocuments_)) {
+        const std::size_t length = pane->GetText().size();
+        if (length <= MaximumTextLength || !reportedAsTooLong_.insert(pane).second)
+            continue;
+        messages_->Tell(
+            QStringLiteral("%1 has %2 characters.").arg(pane->Caption(), english.toString(qulonglong{length})),
+            QStringLiteral(
+                "A style sheet holds at most %1. The text stays in the editor and can be cut down; until then "
+                "its statements aren't known.")
+                .arg(english.toString(qulonglong{MaximumTextLength})));
+    }
+}
+
+void frmMain::ReportFault(const QString& what) {
+    messages_->Tell(QStringLiteral("Something went wrong in Tintora."),
+                    QStringLiteral("The program goes on. What it knows of the fault: %1").arg(what));
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    for (const StyleSheetPane* const pane : std::vector(openDocuments_)) {
+        if (!MayClose(*pane)) {
+            event->ignore();
+            return;
+        }
+    }
+    SaveLocationOnClose();
+    event->accept();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile())
+            OpenOneStyleSheet(AbsolutePath(ToText(url.toLocalFile())));
+    }
+    event->acceptProposedAction();
+}
+
+frmMain* GetMainWindow() {
+    const QWidgetList forms = QApplication::topLevelWidgets();
+    const auto found =
+        std::find_if(forms.begin(), forms.end(), [](QWidget* form) { return qobject_cast<frmMain*>(form) != nullptr; });
+    return found == forms.end() ? nullptr : qobject_cast<frmMain*>(*found);
+}
+
+}  // namespace tintora

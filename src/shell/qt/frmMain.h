@@ -1,0 +1,85 @@
+#pragma once
+
+#include "settings/Settings.h"
+#include "shell/qt/UserMessages.h"
+#include "text/Text.h"
+
+#include <QMainWindow>
+#include <memory>
+#include <set>
+#include <vector>
+
+class QTabWidget;
+
+namespace tintora {
+
+class StatementList;
+class StyleSheetPane;
+
+/// The main window: the open style sheets in tabs, and the list of the front one's statements beside them.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    /// `store` must outlive the window. `messages` says and asks what the user must see; without one, boxes do.
+    explicit frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages = nullptr);
+    ~frmMain() override;
+
+    /// The load step: brings the window to its stored place, and opens `file`, or a new style sheet if `file` is "" and
+    /// this isn't the very first run. Each part of it runs, whether those before it failed or not.
+    void LoadStep(TextView file);
+
+    /// Opens the file in a pane of its own, or brings the pane to the front that has it open. A path that names no file
+    /// does nothing; a file that can't be read is told.
+    void OpenOneStyleSheet(TextView path);
+
+    /// Opens a new, empty style sheet.
+    void LoadNewDoc();
+
+    /// Brings the window before all others of the screen.
+    void BringToFront();
+
+    /// Tells the user of each style sheet that is too long, once until it fits again.
+    void ReportOverflow();
+
+    /// Tells the user of a fault of the program.
+    void ReportFault(const QString& what);
+
+    /// The open panes, in the order of their activation, the latest first.
+    [[nodiscard]] const std::vector<StyleSheetPane*>& OpenDocuments() const noexcept { return openDocuments_; }
+
+    /// The pane in front, `nullptr` if there is none.
+    [[nodiscard]] StyleSheetPane* ActiveDocument() const;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void SetUpPanes();
+    void SetUpActions();
+    void SetLocation();
+    void SaveLocationOnClose();
+    void AskForStyleSheet();
+    StyleSheetPane* OpenNewStyleSheet();
+    void LoadInto(StyleSheetPane& pane, TextView path);
+    [[nodiscard]] bool MayClose(const StyleSheetPane& pane);
+    void ClosePane(int index);
+    void RemovePane(StyleSheetPane* pane);
+    void PaneActivated();
+    void UpdateCaption(const StyleSheetPane* pane);
+
+    Settings settings_;
+    std::unique_ptr<UserMessages> messages_;
+    QTabWidget* documents_;
+    StatementList* statements_;
+    std::vector<StyleSheetPane*> openDocuments_;
+    std::set<const StyleSheetPane*> reportedAsTooLong_;
+    int newDocumentCount_ = 0;
+};
+
+/// The main window of the process, `nullptr` before there is one.
+[[nodiscard]] frmMain* GetMainWindow();
+
+}  // namespace tintora

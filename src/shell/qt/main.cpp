@@ -1,0 +1,3 @@
+#include "shell/qt/Entry.h"
+
+int main(int argc, char** argv) { return tintora::RunEditor(argc, argv); }

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "settings/MemorySettingsStore.h"
+#include "shell/qt/StyleSheetPane.h"
+#include "shell/qt/frmMain.h"
+#include "text/qt/QtText.h"
+
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace tintora::test {
+
+/// What the user was told and asked, and the answer that the next question gets.
+struct Told {
+    QStringList messages;
+    QStringList questions;
+    bool mayDiscard = true;
+};
+
+class RecordedMessages final : public UserMessages {
+  public:
+    explicit RecordedMessages(Told& told) : told_(told) {}
+
+    void Tell(const QString& text, const QString&) override { told_.messages.append(text); }
+    bool MayDiscardChanges(const QString& caption) override {
+        told_.questions.append(caption);
+        return told_.mayDiscard;
+    }
+
+  private:
+    Told& told_;
+};
+
+/// A fresh main window over a fresh store, and a folder of its own for files.
+class WindowTest : public testing::Test {
+  protected:
+    WindowTest() { MakeWindow(); }
+
+    void MakeWindow() { window = std::make_unique<frmMain>(store, std::make_unique<RecordedMessages>(told)); }
+
+    /// Writes a file into the test's folder, and gives its path.
+    Text MakeFile(const char* name, const QByteArray& bytes) {
+        QFile file(folder.filePath(QString::fromUtf8(name)));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+        return ToText(file.fileName());
+    }
+
+    static QStringList Captions(const frmMain& frame) {
+        QStringList captions;
+        for (const StyleSheetPane* const pane : frame.OpenDocuments())
+            captions.append(pane->Caption());
+        return captions;
+    }
+
+    QTemporaryDir folder;
+    MemorySettingsStore store;
+    Told told;
+    std::unique_ptr<frmMain> window;
+};
+
+}  // namespace tintora::test
