@@ -3,7 +3,7 @@ add_library(tintora_flags INTERFACE)
 
 # -Wrestrict is off: GCC 12 sees overlaps in plain string concatenation that are none.
 target_compile_options(
-  tintora_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wold-style-cast -Woverloaded-virtual -Wno-restrict
+  tintora_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wold-style-cast -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
                           $<$<BOOL:${TINTORA_WARNINGS_AS_ERRORS}>:-Werror>)
 
 target_compile_definitions(tintora_flags INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)

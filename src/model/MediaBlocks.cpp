@@ -21,30 +21,43 @@ std::vector<NestedPlace> NestedPlaces(TextView block, WhitespaceAfter whitespace
     const auto endAt = [&](std::size_t index) {
         return whitespace == WhitespaceAfter::BelongsToStatement ? FindNonWhitespace(block, index) : index;
     };
+    const auto standsAt = [&](std::size_t index, char16_t unit) {
+        return index < block.size() && block[index] == unit;
+    };
     std::vector<NestedPlace> places;
     std::size_t start = endAt(IndexBehindBrace(block));
+    const auto close = [&](std::size_t end) {
+        places.push_back({start, end - start});
+        start = end;
+    };
     bool inComment = false;
     bool inRule = false;
     for (std::size_t index = start; index < block.size(); ++index) {
-        const TextView pair = block.substr(index, 2);
-        if (pair == u"/*" && !inRule)
-            inComment = true;
-        if (inComment && pair == u"*/") {
-            const std::size_t end = endAt(index + 2);
-            places.push_back({start, end - start});
-            start = end;
-            inComment = false;
-        }
-        if (inComment)
-            continue;
-        if (block[index] == u'{')
-            inRule = true;
-        if (block[index] == u'}') {
-            const std::size_t end = endAt(index + 1);
-            if (TrimmedView(block.substr(start, end - start)) != u"}")
-                places.push_back({start, end - start});
-            start = end;
-            inRule = false;
+        switch (block[index]) {
+            case u'/':
+                if (!inRule && standsAt(index + 1, u'*'))
+                    inComment = true;
+                break;
+            case u'*':
+                if (inComment && standsAt(index + 1, u'/')) {
+                    close(endAt(index + 2));
+                    inComment = false;
+                }
+                break;
+            case u'{':
+                if (!inComment)
+                    inRule = true;
+                break;
+            case u'}':
+                if (!inComment) {
+                    close(endAt(index + 1));
+                    // The block's own brace is no statement.
+                    if (TrimmedView(block.substr(places.back().start, places.back().length)) == u"}")
+                        places.pop_back();
+                    inRule = false;
+                }
+                break;
+            default: break;
         }
     }
     return places;

@@ -15,6 +15,9 @@ class StatementScanner {
         : text_(text), escapedQuote_(escapedQuote), whitespace_(whitespace) {}
 
     ScannedStatements Scan() {
+        // A guess at the number of statements spares most of the growing.
+        scanned_.statements.reserve(text_.size() / 32);
+        scanned_.origins.reserve(text_.size() / 32);
         for (std::size_t index = 0; index < text_.size(); ++index)
             Visit(index);
         const TextView rest = text_.substr(start_);
