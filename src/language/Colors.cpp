@@ -116,9 +116,15 @@ bool IsRGBColor(TextView text) noexcept {
            std::all_of(text.begin() + RGBOpening.size(), text.end() - 1, IsRGBChar);
 }
 
-bool IsColorKeyword(TextView text) { return ListContains(ColorKeywords(), text); }
+bool IsColorKeyword(TextView text) {
+    static const WordTable words(ColorKeywords(), WordTable::LetterCase::Matters);
+    return words.Has(text);
+}
 
-bool IsSystemColorKeyword(TextView text) { return ListContains(SystemColorKeywords(), text); }
+bool IsSystemColorKeyword(TextView text) {
+    static const WordTable words(SystemColorKeywords(), WordTable::LetterCase::Matters);
+    return words.Has(text);
+}
 
 bool IsValidColor(TextView text) {
     return !text.empty() &&

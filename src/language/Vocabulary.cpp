@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
 
 namespace tintora {
 
@@ -240,12 +241,6 @@ constexpr auto PropertyNumbers = std::to_array<NumberedName>({
 
 static_assert(std::is_sorted(PropertyNumbers.begin(), PropertyNumbers.end(), NameIsLess));
 
-constexpr std::size_t LongestName = std::max_element(PropertyNumbers.begin(), PropertyNumbers.end(),
-                                                     [](const NumberedName& left, const NumberedName& right) {
-                                                         return left.name.size() < right.name.size();
-                                                     })
-                                        ->name.size();
-
 constexpr int NoWords = 1;
 constexpr int FontFamily = 1011;
 constexpr int UnitWords = 1300;
@@ -282,16 +277,21 @@ int StringOfWords(int property) {
     return found == PropertyWords.end() ? UnitWords : found->stringNumber;
 }
 
+WordTable WordsToAsk(int number) { return {GetPossibleValues(number), WordTable::LetterCase::Matters}; }
+
 }  // namespace
 
-int PropertyNumberFromName(TextView name) noexcept {
-    if (name.size() > LongestName)
-        return UnknownProperty;
-    std::array<char16_t, LongestName> buffer{};
-    std::transform(name.begin(), name.end(), buffer.begin(), LowerCaseUnit);
-    const NumberedName wanted{TextView(buffer.data(), name.size()), UnknownProperty};
-    const auto* const found = std::lower_bound(PropertyNumbers.begin(), PropertyNumbers.end(), wanted, NameIsLess);
-    return found != PropertyNumbers.end() && found->name == wanted.name ? found->number : UnknownProperty;
+int PropertyNumberFromName(TextView name) {
+    static const WordTable names(NamesOfProperties(), WordTable::LetterCase::Ignored);
+    const std::size_t index = names.Find(name);
+    return index == WordTable::NotFound ? UnknownProperty : PropertyNumbers[index].number;
+}
+
+Texts NamesOfProperties() {
+    Texts names;
+    for (const NumberedName& row : PropertyNumbers)
+        names.emplace_back(row.name);
+    return names;
 }
 
 TextView PropertyNameFromNumber(int number) noexcept {
@@ -308,6 +308,23 @@ Texts GetPossibleValues(int number, const FrontDocument* front) {
     if (number == FontFamily)
         return GetFontFamilyValues(front);
     return GetWordsFromText(LoadResourceString(StringOfWords(number)), u" ");
+}
+
+const WordTable& PossibleWords(int number) {
+    static const std::map<int, WordTable> ownWords = [] {
+        std::map<int, WordTable> words;
+        const auto add = [&](int property) { words.emplace(property, WordsToAsk(property)); };
+        add(NoWords);
+        add(FontFamily);
+        for (const WordsOfProperties& row : PropertyWords) {
+            for (int property = row.first; property <= row.last; ++property)
+                add(property);
+        }
+        return words;
+    }();
+    static const WordTable unitWords = WordsToAsk(UnknownProperty);
+    const auto found = ownWords.find(number);
+    return found == ownWords.end() ? unitWords : found->second;
 }
 
 Texts GetFontFamilyValues(const FrontDocument* front) {

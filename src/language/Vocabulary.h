@@ -1,6 +1,7 @@
 #pragma once
 
 #include "language/FrontDocument.h"
+#include "language/WordTable.h"
 #include "text/Text.h"
 
 /// The one table of what the program knows of CSS properties: their numbers, names and words.
@@ -17,16 +18,22 @@ inline constexpr int UnknownProperty = 999;
 ///
 /// A name with two numbers (`margin` and its sides) gives the higher one. `table-layout` is unknown, `voice-family` has
 /// the number of `content`.
-[[nodiscard]] int PropertyNumberFromName(TextView name) noexcept;
+[[nodiscard]] int PropertyNumberFromName(TextView name);
 
 /// The name of a property's number; "generic" for an unknown number, 1000 among them. 1071 is misspelled.
 [[nodiscard]] TextView PropertyNameFromNumber(int number) noexcept;
+
+/// Every name that has a number, in the order of the alphabet.
+[[nodiscard]] Texts NamesOfProperties();
 
 [[nodiscard]] constexpr bool IsPropertyNumber(int number) noexcept { return number >= 1000; }
 
 /// The words that editors offer for a property, in the order of their lists. A number with no list of its own gives the
 /// units; 1 gives none; 998 the absolute units; `font-family` gives `GetFontFamilyValues(front)`.
 [[nodiscard]] Texts GetPossibleValues(int number, const FrontDocument* front = nullptr);
+
+/// The words of `GetPossibleValues(number)` with no front document, prepared once, for tests that are run often.
+[[nodiscard]] const WordTable& PossibleWords(int number);
 
 /// The generic fonts and some common font lists, then the fonts of the front document.
 [[nodiscard]] Texts GetFontFamilyValues(const FrontDocument* front);

@@ -1,7 +1,5 @@
 #include "language/Words.h"
 
-#include "text/LowerCase.h"
-
 #include <algorithm>
 #include <unordered_set>
 
@@ -9,16 +7,22 @@ namespace tintora {
 
 Texts GetWordsFromText(TextView text, TextView separator) {
     Texts words;
-    if (text.empty())
-        return words;
-    std::size_t start = 0;
-    // A separator directly at the start gives no piece, so the search begins one unit behind it.
-    for (std::size_t at = text.find(separator, 1); at != TextView::npos; at = text.find(separator, start + 1)) {
-        words.emplace_back(text.substr(start, at - start));
-        start = at + separator.size();
-    }
-    words.emplace_back(text.substr(start));
+    WordReader reader(text, separator);
+    while (const std::optional<TextView> word = reader.Next())
+        words.emplace_back(*word);
     return words;
+}
+
+std::optional<TextView> WordReader::Next() noexcept {
+    if (isAtEnd_)
+        return std::nullopt;
+    // A separator directly at the start gives no piece, so the search begins one unit behind it.
+    const std::size_t at = rest_.find(separator_, 1);
+    const TextView word = rest_.substr(0, at);
+    isAtEnd_ = at == TextView::npos;
+    if (!isAtEnd_)
+        rest_.remove_prefix(at + separator_.size());
+    return word;
 }
 
 Text JoinItems(const Texts& items, TextView separator) {
@@ -42,13 +46,6 @@ Texts RemoveDuplicateItems(const Texts& list) {
     std::reverse(result.begin(), result.end());
     return result;
 }
-
-KeyedList::KeyedList(Texts items) : items_(std::move(items)) {
-    for (const Text& item : items_)
-        keys_.insert(LowerCase(item));
-}
-
-bool KeyedList::HasKey(TextView key) const { return keys_.contains(LowerCase(key)); }
 
 bool ListHasKey(const KeyedList& list, TextView key) { return list.HasKey(key); }
 

@@ -71,9 +71,7 @@ char16_t LowerCyrillic(char16_t unit) {
 
 }  // namespace
 
-char16_t LowerCaseUnit(char16_t unit) noexcept {
-    if (unit < 0x0080)
-        return IsWithin(unit, u'A', u'Z') ? Shifted(unit, 32) : unit;
+char16_t LowerCaseUnitBeyondASCII(char16_t unit) noexcept {
     if (unit <= 0x017F)
         return LowerLatin(unit);
     if (IsWithin(unit, 0x0370, 0x03FF))
@@ -85,8 +83,19 @@ char16_t LowerCaseUnit(char16_t unit) noexcept {
 
 Text LowerCase(TextView text) {
     Text result(text);
-    std::transform(result.begin(), result.end(), result.begin(), LowerCaseUnit);
+    TurnIntoLowerCase(result);
     return result;
+}
+
+void TurnIntoLowerCase(Text& text) noexcept {
+    // Nearly all text is ASCII, and a loop without calls runs over many units at once.
+    char16_t bits = 0;
+    for (char16_t& unit : text) {
+        bits = static_cast<char16_t>(bits | unit);
+        unit = IsWithin(unit, u'A', u'Z') ? Shifted(unit, 32) : unit;
+    }
+    if (bits >= 0x80)
+        std::transform(text.begin(), text.end(), text.begin(), LowerCaseUnit);
 }
 
 bool EqualsLowered(TextView text, TextView lowered) noexcept {

@@ -8,10 +8,20 @@
 /// lower case isn't a single unit (the capital I with a dot), stays as it is.
 namespace tintora {
 
-[[nodiscard]] char16_t LowerCaseUnit(char16_t unit) noexcept;
+/// `LowerCaseUnit` of a unit from 0x80 on.
+[[nodiscard]] char16_t LowerCaseUnitBeyondASCII(char16_t unit) noexcept;
+
+[[nodiscard]] inline char16_t LowerCaseUnit(char16_t unit) noexcept {
+    if (unit >= 0x80)
+        return LowerCaseUnitBeyondASCII(unit);
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+}
 
 /// The lower-case form of `text`, of the same length.
 [[nodiscard]] Text LowerCase(TextView text);
+
+/// Turns `text` into its lower-case form where it stands.
+void TurnIntoLowerCase(Text& text) noexcept;
 
 /// Whether the lower-case form of `text` equals `lowered`, which is in lower case already.
 [[nodiscard]] bool EqualsLowered(TextView text, TextView lowered) noexcept;

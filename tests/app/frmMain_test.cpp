@@ -25,7 +25,7 @@ class frmMainTest : public test::WindowTest {
         return selectors;
     }
 
-    QString SelectedText() { return window->ActiveDocument()->Editor().selectedText(); }
+    QString SelectedText() { return window->ActiveDocument()->View().Control().selectedText(); }
 };
 
 TEST_F(frmMainTest, AStyleSheetOpensWithItsStatementsBesideIt) {
@@ -62,7 +62,7 @@ TEST_F(frmMainTest, AChosenStatementIsSelectedInTheText) {
 
 TEST_F(frmMainTest, TheListFollowsTheTextWithADelay) {
     window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}"));
-    window->ActiveDocument()->Editor().append(QStringLiteral(" h2 {}"));
+    window->ActiveDocument()->View().Control().append(QStringLiteral(" h2 {}"));
     EXPECT_EQ(Selectors(), QStringList({"h1"}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return Selectors() == QStringList({"h1", "h2"}); }, 2000));
     EXPECT_TRUE(window->ActiveDocument()->IsDirty());
@@ -145,11 +145,10 @@ TEST_F(frmMainTest, ATextAtTheLimitIsScannedAndOneBeyondItIsToldOnceAndKept) {
     EXPECT_EQ(told.messages.size(), 1) << "it is told once";
 
     StyleSheetPane& pane = *window->ActiveDocument();
-    pane.SelectText(5, 40000);
-    pane.Editor().removeSelectedText();
+    pane.View().Control().SendScintilla(QsciScintilla::SCI_DELETERANGE, 5UL, 40000L);
     pane.CacheStatements();
     EXPECT_EQ(Selectors().size(), 1);
-    pane.Editor().append(QString(40000, QLatin1Char('b')));
+    pane.View().Control().append(QString(40000, QLatin1Char('b')));
     EXPECT_THROW(pane.CacheStatements(), OverflowFailure);
     window->ReportOverflow();
     EXPECT_EQ(told.messages.size(), 2) << "once more after it had fitted";
@@ -225,7 +224,7 @@ TEST_F(frmMainTest, AMaximisedWindowComesUpMaximisedAgain) {
 TEST_F(frmMainTest, KeepingADirtyStyleSheetKeepsTheWindowAndStoresNothing) {
     window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}"));
     window->show();
-    window->ActiveDocument()->Editor().append(QStringLiteral("x"));
+    window->ActiveDocument()->View().Control().append(QStringLiteral("x"));
     told.mayDiscard = false;
     const std::size_t stored = store.Size();
     EXPECT_FALSE(window->close());
@@ -244,7 +243,7 @@ TEST_F(frmMainTest, ClosingAPaneAsksOnlyForUnsavedChanges) {
     EXPECT_TRUE(told.questions.isEmpty());
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));
     EXPECT_EQ(Selectors(), QStringList({"h1"}));
-    window->ActiveDocument()->Editor().append(QStringLiteral("x"));
+    window->ActiveDocument()->View().Control().append(QStringLiteral("x"));
     told.mayDiscard = false;
     close->trigger();
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "editor/CSSEditorSrcView.h"
+#include "editor/qt/EditorDialogBoxes.h"
+#include "editor/qt/QtClipboard.h"
+#include "editor/qt/ScintillaSourceView.h"
 #include "linking/TextFiles.h"
 #include "model/StyleSheetTextSource.h"
 #include "model/ktStyleSheet.h"
@@ -7,16 +11,15 @@
 #include <QTimer>
 #include <QWidget>
 
-class QsciScintilla;
-
 namespace tintora {
 
-/// One open style sheet: its text in an editor, and its model, which follows the text with a delay.
-class StyleSheetPane : public QWidget, private StyleSheetTextSource {
+/// One open style sheet: its text in the source editor, and its model, which follows the text with a delay.
+class StyleSheetPane : public QWidget, private StyleSheetTextSource, private EditorParent {
     Q_OBJECT
 
   public:
-    explicit StyleSheetPane(const QString& caption, QWidget* parent = nullptr);
+    /// `frame` and `settings` must outlive the pane.
+    StyleSheetPane(const QString& caption, EditorFrame& frame, SettingsStore& settings);
     ~StyleSheetPane() override;
 
     /// Opens a style sheet, or the one that is embedded in a page. Throws `FileFailure` for a file that can't be read,
@@ -29,7 +32,11 @@ class StyleSheetPane : public QWidget, private StyleSheetTextSource {
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] Text GetText() const override;
     [[nodiscard]] const ktStyleSheet& StyleSheet() const noexcept { return styleSheet_; }
-    [[nodiscard]] QsciScintilla& Editor() noexcept { return *editor_; }
+    [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return editor_; }
+    [[nodiscard]] ScintillaSourceView& View() noexcept { return view_; }
+
+    /// The encoding of the file and the line end of the text, for the status bar.
+    [[nodiscard]] QString FormatName() const;
 
     /// Selects `length` code units from the 0-based offset `start`, scrolls there, and gives the editor the focus.
     void SelectText(int start, int length);
@@ -44,11 +51,29 @@ class StyleSheetPane : public QWidget, private StyleSheetTextSource {
 
   private:
     void LoadContent(TextView file) override;
-    void SetUpEditor();
+
+    // EditorParent. What makes and changes whole statements is no part of the program yet.
+    void TextChanged() override;
+    void SelectionChanged() override {}
+    void DeleteKeyDown() override {}
+    void SpecialKeyUp() override {}
+    void HandleCutPasteClear(TextView text) override;
+    void Undo() override;
+    void SetNeedsUpdating(bool needsUpdating) override;
+    void NewStatement(TextView) override {}
+    void EditStatement() override {}
+    void DuplicateStatement() override {}
+    void DeleteStatement() override {}
+    void EditCurrentProperty() override {}
+    [[nodiscard]] Text GetCurrentPropertyName() override;
 
     QString caption_;
-    QsciScintilla* editor_;
+    Encoding encoding_ = Encoding::Utf8;
     ktStyleSheet styleSheet_;
+    QtClipboard clipboard_;
+    EditorDialogBoxes dialogs_;
+    ScintillaSourceView view_;
+    CSSEditorSrcView editor_;
     QTimer cacheStatementsDelay_;
 };
 

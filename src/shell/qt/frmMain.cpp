@@ -3,7 +3,6 @@
 #include "linking/HtmlStyle.h"
 #include "linking/TextFiles.h"
 #include "shell/CommandLine.h"
-#include "shell/qt/Actions.h"
 #include "shell/qt/FormStrings.h"
 #include "shell/qt/StatementList.h"
 #include "shell/qt/StyleSheetPane.h"
@@ -11,7 +10,6 @@
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
 
-#include <Qsci/qsciscintilla.h>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -19,13 +17,12 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLocale>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolBar>
 #include <algorithm>
 #include <cmath>
 
@@ -47,16 +44,19 @@ constexpr auto OpenFilter = "Style Sheets (*.css);;HTML Files (*.htm *.html);;Te
 }  // namespace
 
 frmMain::frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages)
-    : settings_(store),
+    : store_(store),
+      settings_(store),
       messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
       documents_(new QTabWidget(this)),
-      statements_(new StatementList(this)) {
+      statements_(new StatementList(this)),
+      caretPosition_(new QLabel(this)),
+      format_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tintora"));
     setAcceptDrops(true);
     SetUpPanes();
+    SetUpStatusBar();
     SetUpActions();
-    statusBar();
     LoadFormStrings(*this);
 }
 
@@ -80,68 +80,6 @@ void frmMain::SetUpPanes() {
     dock->setWidget(statements_);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     resizeDocks({dock}, {StatementsWidth}, Qt::Horizontal);
-}
-
-void frmMain::SetUpActions() {
-    QToolBar* const standard = addToolBar(QStringLiteral("Standard"));
-    standard->setObjectName(QStringLiteral("Standard"));
-    standard->setIconSize({22, 22});
-    standard->setMovable(false);
-
-    const auto add = [this](QMenu* menu, const ActionLook& look, auto onTriggered) {
-        QAction* const action = MakeAction(look, this);
-        connect(action, &QAction::triggered, this, onTriggered);
-        menu->addAction(action);
-        return action;
-    };
-    const auto onEditor = [this](void (QsciScintilla::*edit)()) {
-        return [this, edit] {
-            if (StyleSheetPane* const pane = ActiveDocument())
-                (pane->Editor().*edit)();
-        };
-    };
-
-    QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
-    standard->addAction(add(file, {"miFNew", "&New", "document-new", QKeySequence::New, "Opens a new style sheet"},
-                            [this] { LoadNewDoc(); }));
-    standard->addAction(add(file,
-                            {"miFOpen", "&Open…", "document-open", QKeySequence::Open,
-                             "Opens a style sheet, or the one that is embedded in a page"},
-                            [this] { AskForStyleSheet(); }));
-    add(file, {"miFCloseWindow", "&Close", "document-close", QKeySequence::Close, "Closes the style sheet"},
-        [this] { ClosePane(documents_->currentIndex()); });
-    file->addSeparator();
-    add(file, {"miFExit", "&Quit", "application-exit", QKeySequence(Qt::CTRL | Qt::Key_Q), "Closes all style sheets"},
-        [this] { close(); });
-
-    standard->addSeparator();
-    QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    standard->addAction(add(edit, {"miEUndo", "&Undo", "edit-undo", QKeySequence::Undo, "Takes the last change back"},
-                            onEditor(&QsciScintilla::undo)));
-    standard->addAction(add(edit, {"miERedo", "&Redo", "edit-redo", QKeySequence::Redo, "Makes the change again"},
-                            onEditor(&QsciScintilla::redo)));
-    edit->addSeparator();
-    standard->addSeparator();
-    standard->addAction(add(edit,
-                            {"miECut", "Cu&t", "edit-cut", QKeySequence::Cut, "Moves the selection to the clipboard"},
-                            onEditor(&QsciScintilla::cut)));
-    standard->addAction(add(edit, {"miECopy", "&Copy", "edit-copy", QKeySequence::Copy, "Copies the selection"},
-                            onEditor(&QsciScintilla::copy)));
-    standard->addAction(add(edit, {"miEPaste", "&Paste", "edit-paste", QKeySequence::Paste, "Inserts the clipboard"},
-                            onEditor(&QsciScintilla::paste)));
-    edit->addSeparator();
-    add(edit, {"miESelectAll", "Select &All", "edit-select-all", QKeySequence::SelectAll, "Selects the whole text"},
-        [this] {
-            if (StyleSheetPane* const pane = ActiveDocument())
-                pane->Editor().selectAll();
-        });
-
-    QMenu* const window = menuBar()->addMenu(QStringLiteral("&Window"));
-    QAction* const showStatements = findChild<QDockWidget*>(QStringLiteral("dwSelectorsEditor"))->toggleViewAction();
-    showStatements->setObjectName(QStringLiteral("miWSelectorsEditor"));
-    showStatements->setText(QStringLiteral("&Statements"));
-    showStatements->setStatusTip(QStringLiteral("Shows or hides the list of statements"));
-    window->addAction(showStatements);
 }
 
 void frmMain::LoadStep(TextView file) {
@@ -224,11 +162,12 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
         throw;
     }
     UpdateCaption(&pane);
+    format_->setText(pane.FormatName());
 }
 
 StyleSheetPane* frmMain::OpenNewStyleSheet() {
     ++newDocumentCount_;
-    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_));
+    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this, store_);
     connect(pane, &StyleSheetPane::DirtyChanged, this, [this, pane] { UpdateCaption(pane); });
     connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
@@ -236,6 +175,25 @@ StyleSheetPane* frmMain::OpenNewStyleSheet() {
     UpdateCaption(pane);
     pane->setFocus();
     return pane;
+}
+
+void frmMain::SetUpStatusBar() {
+    caretPosition_->setObjectName(QStringLiteral("CaretPosition"));
+    constexpr int Gap = 6;
+    caretPosition_->setContentsMargins(Gap, 0, Gap, 0);
+    format_->setContentsMargins(Gap, 0, Gap, 0);
+    statusBar()->addWidget(caretPosition_);
+    statusBar()->addPermanentWidget(format_);
+}
+
+void frmMain::SetStatusBarText(TextView pane, TextView text) {
+    if (auto* const label = statusBar()->findChild<QLabel*>(ToQString(pane)))
+        label->setText(ToQString(text));
+}
+
+void frmMain::UpdateMenuItem(TextView key, bool enabled) {
+    if (auto* const action = findChild<QAction*>(ToQString(key)))
+        action->setEnabled(enabled);
 }
 
 void frmMain::LoadNewDoc() { OpenNewStyleSheet(); }
@@ -247,6 +205,13 @@ void frmMain::PaneActivated() {
         std::rotate(openDocuments_.begin(), place, place + 1);
     statements_->Follow(pane);
     UpdateCaption(pane);
+    format_->setText(pane == nullptr ? QString() : pane->FormatName());
+    if (pane == nullptr) {
+        caretPosition_->clear();
+    } else {
+        pane->CSSEditor().UpdateStatusBar();
+        pane->CSSEditor().UpdateMenu();
+    }
 }
 
 void frmMain::UpdateCaption(const StyleSheetPane* pane) {

@@ -1,23 +1,30 @@
 #pragma once
 
+#include "editor/EditorSurroundings.h"
 #include "settings/Settings.h"
 #include "shell/qt/UserMessages.h"
 #include "text/Text.h"
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 #include <set>
 #include <vector>
 
+class QLabel;
+class QMenu;
 class QTabWidget;
+class QToolBar;
 
 namespace tintora {
 
+class CSSEditorSrcView;
 class StatementList;
+struct ActionLook;
 class StyleSheetPane;
 
 /// The main window: the open style sheets in tabs, and the list of the front one's statements beside them.
-class frmMain : public QMainWindow {
+class frmMain : public QMainWindow, private EditorFrame {
     Q_OBJECT
 
   public:
@@ -57,8 +64,21 @@ class frmMain : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    // EditorFrame
+    [[nodiscard]] bool IsDocumentInFront() const override { return true; }
+    void UpdateMenuItem(TextView key, bool enabled) override;
+    // The front document has no menu items of its own yet.
+    void UpdateMenus() override {}
+    void SetStatusBarText(TextView pane, TextView text) override;
+
     void SetUpPanes();
+    void SetUpStatusBar();
     void SetUpActions();
+    QAction* AddAction(QMenu& menu, const ActionLook& look, std::function<void()> onTriggered);
+    QAction* AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)());
+    void SetUpFileMenu(QToolBar& standard);
+    void SetUpEditMenu(QToolBar& standard);
+    void SetUpWindowMenu();
     void SetLocation();
     void SaveLocationOnClose();
     void AskForStyleSheet();
@@ -70,10 +90,13 @@ class frmMain : public QMainWindow {
     void PaneActivated();
     void UpdateCaption(const StyleSheetPane* pane);
 
+    SettingsStore& store_;
     Settings settings_;
     std::unique_ptr<UserMessages> messages_;
     QTabWidget* documents_;
     StatementList* statements_;
+    QLabel* caretPosition_;
+    QLabel* format_;
     std::vector<StyleSheetPane*> openDocuments_;
     std::set<const StyleSheetPane*> reportedAsTooLong_;
     int newDocumentCount_ = 0;
