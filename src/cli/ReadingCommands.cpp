@@ -124,15 +124,6 @@ void ExplainSelectors(Console& console) {
     }
 }
 
-/// Adds a command that takes one FILE.
-void AddFileCommand(CLI::App& app, Console& console, const std::string& name, const std::string& description,
-                    void (*run)(Console&, const std::string&)) {
-    CLI::App* const command = app.add_subcommand(name, description);
-    const auto file = std::make_shared<std::string>();
-    command->add_option("FILE", *file, "a style sheet or a page, - for standard input")->required();
-    command->callback([&console, file, run] { run(console, *file); });
-}
-
 void AddPlacesCommand(CLI::App& app, Console& console) {
     CLI::App* const command = app.add_subcommand("at", "What stands at positions: one line for each");
     const auto file = std::make_shared<std::string>();

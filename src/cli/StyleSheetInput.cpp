@@ -4,6 +4,8 @@
 #include "linking/TextFiles.h"
 #include "text/Narrowing.h"
 
+#include <memory>
+
 namespace tintora::cli {
 
 namespace {
@@ -35,6 +37,14 @@ Text ReadStyleSheet(Console& console, const std::string& file) {
     } catch (const UnclosedElementFailure&) {
         throw CommandFailure(file, "the style element of the page doesn't end");
     }
+}
+
+void AddFileCommand(CLI::App& app, Console& console, const std::string& name, const std::string& description,
+                    void (*run)(Console&, const std::string&)) {
+    CLI::App* const command = app.add_subcommand(name, description);
+    const auto file = std::make_shared<std::string>();
+    command->add_option("FILE", *file, "a style sheet or a page, - for standard input")->required();
+    command->callback([&console, file, run] { run(console, *file); });
 }
 
 }  // namespace tintora::cli

@@ -70,19 +70,27 @@ int MemorySourceView::OffsetOf(int column, int row) const {
 // Changes.
 
 void MemorySourceView::Apply(int offset, int removedLength, TextView added, int caret) {
+    const auto start = static_cast<std::size_t>(offset);
+    const auto length = static_cast<std::size_t>(removedLength);
+    const auto hasLineEnd = [](TextView text) { return text.find_first_of(u"\r\n") != TextView::npos; };
+    const bool staysInRow = !hasLineEnd(added) && !hasLineEnd(TextView(text_).substr(start, length));
     const int row = GetRowAt(offset);
     const int lastRow = GetRowAt(offset + removedLength);
     const int rowsBefore = NumLines();
-    text_.replace(static_cast<std::size_t>(offset), static_cast<std::size_t>(removedLength), added);
+    text_.replace(start, length, added);
     FindLineStarts();
-    // A CR and an LF that meet become one line end, and one that is parted becomes two: the row in front is concerned
-    // too.
-    const int first = std::max(row - 1, 0);
-    const int removedRows = std::min(lastRow + 1, rowsBefore - 1) - first;
-    const int addedRows = NumLines() - rowsBefore + removedRows;
-    lineData_.erase(lineData_.begin() + first + 1, lineData_.begin() + first + 1 + removedRows);
-    lineData_.insert(lineData_.begin() + first + 1, static_cast<std::size_t>(addedRows), 0);
-    tokens_.RowsChanged(first, removedRows, addedRows);
+    if (staysInRow && NumLines() == rowsBefore) {
+        tokens_.RowsChanged(row, 0, 0);
+    } else {
+        // A CR and an LF that meet become one line end, and one that is parted becomes two: the row in front is
+        // concerned too.
+        const int first = std::max(row - 1, 0);
+        const int removedRows = std::min(lastRow + 1, rowsBefore - 1) - first;
+        const int addedRows = NumLines() - rowsBefore + removedRows;
+        const auto behind = lineData_.begin() + first + 1;
+        lineData_.insert(lineData_.erase(behind, behind + removedRows), static_cast<std::size_t>(addedRows), 0);
+        tokens_.RowsChanged(first, removedRows, addedRows);
+    }
     anchor_ = caret_ = caret;
     if (events_ != nullptr)
         events_->TextChanged();

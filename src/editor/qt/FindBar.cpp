@@ -46,6 +46,7 @@ FindBar::FindBar(QsciScintilla& control, Act act, QWidget* parent)
       regularExpression_(AddOption(QStringLiteral(".*"), QStringLiteral("Regular expression"), false)),
       wrap_(AddOption(QStringLiteral("↻"), QStringLiteral("Go on from the other end"), true)),
       count_(new QLabel(this)) {
+    count_->setObjectName(QStringLiteral("FindCount"));
     SetUpFields();
     hide();
 }

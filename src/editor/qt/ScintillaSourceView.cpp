@@ -110,8 +110,10 @@ void ScintillaSourceView::SetUpControl() {
     control_.SendScintilla(Control::SCI_USEPOPUP, 0UL);
     control_.SendScintilla(Control::SCI_SETMULTIPLESELECTION, 0UL);
     connect(&control_, &QsciScintillaBase::SCN_MODIFIED, this,
-            [this](int position, int type, const char*, int length, int linesAdded) {
-                OnModified(position, type, length, linesAdded);
+            [this](int position, int type, const char* text, int length, int linesAdded) {
+                const std::string_view bytes =
+                    text == nullptr ? std::string_view() : std::string_view(text, static_cast<std::size_t>(length));
+                OnModified(position, type, bytes, linesAdded);
             });
     connect(&control_, &QsciScintillaBase::SCN_STYLENEEDED, this, [this] {
         try {
@@ -247,18 +249,24 @@ void ScintillaSourceView::Redo() {
 
 void ScintillaSourceView::ClearUndoStack() { control_.SendScintilla(Control::SCI_EMPTYUNDOBUFFER); }
 
-void ScintillaSourceView::OnModified(int position, int type, int length, int linesAdded) {
+void ScintillaSourceView::OnModified(int position, int type, std::string_view text, int linesAdded) {
     if ((type & (Control::SC_MOD_INSERTTEXT | Control::SC_MOD_DELETETEXT)) == 0)
         return;
-    const bool isInsertion = (type & Control::SC_MOD_INSERTTEXT) != 0;
-    // A CR and an LF that meet become one line end, and one that is parted becomes two: the row in front is concerned
-    // too.
-    const int row = static_cast<int>(control_.SendScintilla(Control::SCI_LINEFROMPOSITION, Word(position)));
-    const int first = std::max(row - 1, 0);
-    const int last = static_cast<int>(
-        control_.SendScintilla(Control::SCI_LINEFROMPOSITION, Word(position + (isInsertion ? length : 0))));
-    const int added = std::min(last + 1, NumLines() - 1) - first;
-    tokens_.RowsChanged(first, added - linesAdded, added);
+    const auto rowAt = [this](long byte) {
+        return static_cast<int>(control_.SendScintilla(Control::SCI_LINEFROMPOSITION, Word(byte)));
+    };
+    const int row = rowAt(position);
+    if (linesAdded == 0 && text.find_first_of("\r\n") == std::string_view::npos) {
+        tokens_.RowsChanged(row, 0, 0);
+    } else {
+        // A CR and an LF that meet become one line end, and one that is parted becomes two: the row in front is
+        // concerned too.
+        const bool isInsertion = (type & Control::SC_MOD_INSERTTEXT) != 0;
+        const int first = std::max(row - 1, 0);
+        const int last = rowAt(position + (isInsertion ? static_cast<long>(text.size()) : 0));
+        const int added = std::min(last + 1, NumLines() - 1) - first;
+        tokens_.RowsChanged(first, added - linesAdded, added);
+    }
     isModified_ = true;
     // What the control does by itself, outside of any call, is told from the event loop.
     if (callDepth_ == 0)

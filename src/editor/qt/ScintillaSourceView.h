@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <map>
 #include <memory>
+#include <string_view>
 
 class QsciPrinter;
 
@@ -104,7 +105,7 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
     void LookChanged() override;
 
     void SetUpControl();
-    void OnModified(int position, int type, int length, int linesAdded);
+    void OnModified(int position, int type, std::string_view text, int linesAdded);
     void ScanStale();
     void StyleRow(int row);
     void Tell();
