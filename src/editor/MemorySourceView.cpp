@@ -104,7 +104,10 @@ void MemorySourceView::ReplaceRange(int start, int end, TextView text) {
     if (start == end && added.empty())
         return;
     const Text removed = text_.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
-    undoSteps_.push_back({start, removed, added});
+    if (!continuesStep_)
+        undoSteps_.emplace_back();
+    continuesStep_ = openSteps_ > 0;
+    undoSteps_.back().push_back({start, removed, added});
     redoSteps_.clear();
     Apply(start, end - start, added, start + static_cast<int>(added.size()));
 }
@@ -122,27 +125,35 @@ void MemorySourceView::InsertOverwrite(int startColumn, int startRow, int endCol
     ReplaceRange(OffsetOf(startColumn, startRow), OffsetOf(endColumn, endRow), text);
 }
 
+void MemorySourceView::EndUndoStep() {
+    --openSteps_;
+    continuesStep_ = continuesStep_ && openSteps_ > 0;
+}
+
 void MemorySourceView::Undo() {
     if (undoSteps_.empty())
         return;
-    Change change = std::move(undoSteps_.back());
+    redoSteps_.push_back(std::move(undoSteps_.back()));
     undoSteps_.pop_back();
-    redoSteps_.push_back(change);
-    Apply(change.offset, static_cast<int>(change.added.size()), change.removed,
-          change.offset + static_cast<int>(change.removed.size()));
+    const std::vector<Change> step = redoSteps_.back();
+    for (auto change = step.rbegin(); change != step.rend(); ++change)
+        Apply(change->offset, static_cast<int>(change->added.size()), change->removed,
+              change->offset + static_cast<int>(change->removed.size()));
 }
 
 void MemorySourceView::Redo() {
     if (redoSteps_.empty())
         return;
-    Change change = std::move(redoSteps_.back());
+    undoSteps_.push_back(std::move(redoSteps_.back()));
     redoSteps_.pop_back();
-    undoSteps_.push_back(change);
-    Apply(change.offset, static_cast<int>(change.removed.size()), change.added,
-          change.offset + static_cast<int>(change.added.size()));
+    const std::vector<Change> step = undoSteps_.back();
+    for (const Change& change : step)
+        Apply(change.offset, static_cast<int>(change.removed.size()), change.added,
+              change.offset + static_cast<int>(change.added.size()));
 }
 
 void MemorySourceView::ClearUndoStack() {
+    continuesStep_ = false;
     undoSteps_.clear();
     redoSteps_.clear();
 }

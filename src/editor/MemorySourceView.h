@@ -23,6 +23,7 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     [[nodiscard]] SourceStyles& Styles() override { return styles_; }
     [[nodiscard]] Text GetText() const override { return text_; }
     void SetText(TextView text) override;
+    [[nodiscard]] TextView LineEnd() const override { return lineEnd_; }
     [[nodiscard]] int CharWidth() const override { return 1; }
     [[nodiscard]] int LineHeight() const override { return 1; }
     [[nodiscard]] int CaretColumn() const override;
@@ -86,6 +87,8 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     void Insert(int column, int row, TextView text) override;
     void Delete(int startColumn, int startRow, int endColumn, int endRow) override;
     void InsertOverwrite(int startColumn, int startRow, int endColumn, int endRow, TextView text) override;
+    void BeginUndoStep() override { ++openSteps_; }
+    void EndUndoStep() override;
     [[nodiscard]] bool CanUndo() const override { return !undoSteps_.empty(); }
     [[nodiscard]] bool CanRedo() const override { return !redoSteps_.empty(); }
     void Undo() override;
@@ -115,8 +118,10 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     int caret_ = 0;
     int reportedAnchor_ = 0;
     int reportedCaret_ = 0;
-    std::vector<Change> undoSteps_;
-    std::vector<Change> redoSteps_;
+    std::vector<std::vector<Change>> undoSteps_;
+    std::vector<std::vector<Change>> redoSteps_;
+    int openSteps_ = 0;
+    bool continuesStep_ = false;
 };
 
 }  // namespace tintora

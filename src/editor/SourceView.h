@@ -67,6 +67,10 @@ class SourceBuffer : public LexBuffer {
     virtual void Delete(int startColumn, int startRow, int endColumn, int endRow) = 0;
     virtual void InsertOverwrite(int startColumn, int startRow, int endColumn, int endRow, TextView text) = 0;
 
+    /// The changes between the two are one undoable step together. They nest; without a change there is no step.
+    virtual void BeginUndoStep() = 0;
+    virtual void EndUndoStep() = 0;
+
     [[nodiscard]] virtual bool CanUndo() const = 0;
     [[nodiscard]] virtual bool CanRedo() const = 0;
     virtual void Undo() = 0;
@@ -92,6 +96,18 @@ class SourceStyles {
 
     /// `bits` is the sum of `Bold` and `Italic`.
     virtual void SetFontStyle(int tokenType, int bits) = 0;
+};
+
+/// Makes one undoable step of all changes while it lives.
+class UndoStep {
+  public:
+    explicit UndoStep(SourceBuffer& buffer) : buffer_(buffer) { buffer_.BeginUndoStep(); }
+    ~UndoStep() { buffer_.EndUndoStep(); }
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+
+  private:
+    SourceBuffer& buffer_;
 };
 
 enum class MouseButton { Left, Middle, Right };
@@ -156,6 +172,9 @@ class SourceView {
 
     /// Loads a text in the place of the whole text. Its first line end is the document's own from now on.
     virtual void SetText(TextView text) = 0;
+
+    /// The document's own line end: CR LF, CR or LF.
+    [[nodiscard]] virtual TextView LineEnd() const = 0;
 
     /// In pixels.
     [[nodiscard]] virtual int CharWidth() const = 0;

@@ -139,14 +139,15 @@ LexClass::Piece LexClass::ScanHiddenValue(std::int32_t length) {
 
 std::int32_t LexClass::ScanName(TextView name) {
     lastPropertyName_.assign(name);
-    const bool isKnown = name.empty() || IsPropertyNumber(PropertyNumberFromName(name));
+    lastRules_ = &RulesOfProperty(name);
+    const bool isKnown = name.empty() || IsPropertyNumber(lastRules_->number);
     return isKnown ? token_type::PropertyName : token_type::UnknownPropertyName;
 }
 
 std::int32_t LexClass::TypeOfValue(TextView value, Judging judging) const {
     if (judging == Judging::Off)
         return token_type::Selector;
-    return ValidPropertyValue(lastPropertyName_, value) ? token_type::ValidValue : token_type::InvalidValue;
+    return tintora::ValidPropertyValue(*lastRules_, value) ? token_type::ValidValue : token_type::InvalidValue;
 }
 
 Text LexClass::GetNextChunk(TextView line, std::int32_t position) { return ChunkAt(line, position, ChunkForm::Tokens); }

@@ -2,6 +2,7 @@
 
 #include "language/LexBuffer.h"
 #include "language/LineChunks.h"
+#include "language/PropertyRules.h"
 #include "language/TokenTypes.h"
 #include "text/Text.h"
 
@@ -73,9 +74,9 @@ class LexClass {
     void ISourceLex4_SetLineIndex(std::int32_t index) noexcept { lineIndex_ = index; }
 
     /// 0: letters are shown as they are written.
-    [[nodiscard]] std::int32_t ISourceLex4_GetDesiredCase() const noexcept { return 0; }
+    [[nodiscard]] static std::int32_t ISourceLex4_GetDesiredCase() noexcept { return 0; }
     /// 0: there is nothing special about this scanner.
-    [[nodiscard]] std::int32_t ISourceLex4_GetProperties() const noexcept { return 0; }
+    [[nodiscard]] static std::int32_t ISourceLex4_GetProperties() noexcept { return 0; }
 
     // What the scan knows.
 
@@ -181,6 +182,7 @@ class LexClass {
     std::int32_t lineIndex_ = 0;
     std::int32_t lexState_ = 0;
     Text lastPropertyName_;
+    const PropertyRules* lastRules_ = &RulesOfProperty({});
 };
 
 }  // namespace tintora

@@ -5,23 +5,8 @@
 #include "text/Whitespace.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tintora {
-
-namespace {
-
-/// The units that may end a text, for a quick look: most units are none of them.
-constexpr auto EndingUnits = [] {
-    std::array<bool, 128> units{};
-    for (const char16_t unit : TextView(u":;{}!\\/ \t\n\f\r"))
-        units[unit] = true;
-    return units;
-}();
-
-constexpr bool MayEndText(char16_t unit) { return unit < EndingUnits.size() && EndingUnits[unit]; }
-
-}  // namespace
 
 LineChunks::LineChunks(TextView line)
     : line_(line), behindLastSemicolon_(line.rfind(u';') + 1), beginsWithMedia_(HasLoweredAt(line, 0, u"@media")) {}
@@ -55,7 +40,7 @@ std::size_t LineChunks::EndOfMediaHead() const {
 std::size_t LineChunks::EndOfText(std::size_t index, ChunkForm form) const {
     // What stands at the index itself ends nothing: neither a backslash before a quote that no ";" follows, nor "/*".
     std::size_t end = index + 1;
-    while (end < line_.size() && !(MayEndText(line_[end]) && EndsTextAt(end, form)))
+    while (end < line_.size() && !EndsTextAt(end, form))
         ++end;
     return end;
 }

@@ -73,9 +73,18 @@ Texts KnownNames() {
 
 class RuleTable {
   public:
+    // The rules hold views into the names.
+    RuleTable(const RuleTable&) = delete;
+    RuleTable& operator=(const RuleTable&) = delete;
+    RuleTable(RuleTable&&) = delete;
+    RuleTable& operator=(RuleTable&&) = delete;
+    ~RuleTable() = default;
+
     RuleTable() : names_(KnownNames(), WordTable::LetterCase::Ignored) {
-        for (const Text& name : names_.Words())
+        for (const Text& name : names_.Words()) {
             rules_.push_back(GatheredRules(name));
+            rules_.back().name = name;
+        }
     }
 
     [[nodiscard]] const PropertyRules& Find(TextView name) const {

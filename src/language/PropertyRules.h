@@ -26,6 +26,9 @@ enum class OwnRule {
 };
 
 struct PropertyRules {
+    /// In lower case; "" for the names that nothing knows.
+    TextView name;
+
     /// What `PropertyNumberFromName` gives.
     int number = UnknownProperty;
 
@@ -45,7 +48,7 @@ struct PropertyRules {
 };
 
 /// The rules of the property `name`, in whatever case, without white space around it. A name that nothing knows has the
-/// rules of an unknown property; "" is a property that takes lengths.
+/// rules of an unknown property; "" is a property that takes lengths. The rules stay for the life of the process.
 [[nodiscard]] const PropertyRules& RulesOfProperty(TextView name);
 
 }  // namespace tintora

@@ -1,7 +1,6 @@
 #include "language/PropertyValidation.h"
 
 #include "language/Colors.h"
-#include "language/PropertyRules.h"
 #include "language/ValueParsers.h"
 #include "language/Words.h"
 #include "text/LowerCase.h"
@@ -62,23 +61,26 @@ bool PassesLists(const PropertyRules& rules, TextView value) {
 
 bool HasManyWords(TextView value) { return value.find(u' ', 1) != TextView::npos; }
 
-bool AreSides(TextView name, TextView value, FontFamilySplit split) {
-    return EveryWord(value, Blank, [=](TextView word) { return ValidPropertyValue(name, word, split); });
+bool AreSides(const PropertyRules& rules, TextView value, FontFamilySplit split) {
+    return EveryWord(value, Blank, [&](TextView word) { return ValidPropertyValue(rules, word, split); });
 }
 
 bool IsBackground(TextView value, FontFamilySplit split) {
+    static const PropertyRules& attachment = RulesOfProperty(u"background-attachment");
+    static const PropertyRules& position = RulesOfProperty(u"background-position");
+    static const PropertyRules& repeat = RulesOfProperty(u"background-repeat");
     return EveryWord(value, Blank, [=](TextView word) {
         return IsURLValue(word) || IsValidColor(word) || word == u"transparent" || word == u"none" ||
-               IsPositiveLengthValue(word) || ValidPropertyValue(u"background-attachment", word, split) ||
-               ValidPropertyValue(u"background-position", word, split) ||
-               ValidPropertyValue(u"background-repeat", word, split);
+               IsPositiveLengthValue(word) || ValidPropertyValue(attachment, word, split) ||
+               ValidPropertyValue(position, word, split) || ValidPropertyValue(repeat, word, split);
     });
 }
 
 bool IsListStyle(TextView value, FontFamilySplit split) {
+    static const PropertyRules& type = RulesOfProperty(u"list-style-type");
+    static const PropertyRules& position = RulesOfProperty(u"list-style-position");
     return EveryWord(value, Blank, [=](TextView word) {
-        return IsURLValue(word) || ValidPropertyValue(u"list-style-type", word, split) ||
-               ValidPropertyValue(u"list-style-position", word, split);
+        return IsURLValue(word) || ValidPropertyValue(type, word, split) || ValidPropertyValue(position, word, split);
     });
 }
 
@@ -88,18 +90,18 @@ bool PassesFinalTest(const PropertyRules& rules, TextView value) {
 }
 
 /// A value may pass the rule of its property, or fail it for good, or go on to the final test.
-bool PassesOwnRule(const PropertyRules& rules, TextView name, TextView value, FontFamilySplit split) {
+bool PassesOwnRule(const PropertyRules& rules, TextView value, FontFamilySplit split) {
     bool passes = false;
     switch (rules.ownRule) {
-        case OwnRule::TextDecoration: return isValidTextDecorationValue(name, value);
-        case OwnRule::FontFamily: return isValidFontFamilyValue(name, value, split);
-        case OwnRule::BackgroundPosition: return isValidBackgroundPositionValue(name, value);
+        case OwnRule::TextDecoration: return isValidTextDecorationValue(rules.name, value);
+        case OwnRule::FontFamily: return isValidFontFamilyValue(rules.name, value, split);
+        case OwnRule::BackgroundPosition: return isValidBackgroundPositionValue(rules.name, value);
         case OwnRule::Background: return IsBackground(value, split);
         case OwnRule::ListStyle: return IsListStyle(value, split);
-        case OwnRule::Font: return isValidFontValue(name, value, split);
+        case OwnRule::Font: return isValidFontValue(rules.name, value, split);
         case OwnRule::Sides:
             if (HasManyWords(value))
-                return AreSides(name, value, split);
+                return AreSides(rules, value, split);
             break;
         case OwnRule::Number: passes = IsNumeric(value); break;
         case OwnRule::Anything: passes = true; break;
@@ -107,7 +109,7 @@ bool PassesOwnRule(const PropertyRules& rules, TextView name, TextView value, Fo
         case OwnRule::Transparent: passes = value == u"transparent"; break;
         case OwnRule::Rect: passes = IsRectValue(value); break;
         // The answer isn't used: an outline of more than one word fails, whatever it holds.
-        case OwnRule::Outline: static_cast<void>(isValidEdgeValue(name, value)); break;
+        case OwnRule::Outline: static_cast<void>(isValidEdgeValue(rules.name, value)); break;
         case OwnRule::None: break;
     }
     return passes || PassesFinalTest(rules, value);
@@ -123,12 +125,14 @@ constexpr bool IsFontStyleWord(TextView /*word*/) { return true; }
 }  // namespace
 
 bool ValidPropertyValue(TextView name, TextView value, FontFamilySplit split) {
+    return ValidPropertyValue(RulesOfProperty(TrimmedView(name)), value, split);
+}
+
+bool ValidPropertyValue(const PropertyRules& rules, TextView value, FontFamilySplit split) {
     const LoweredText lowered(TrimmedView(value));
     if (lowered.View().empty() || value == u"inherit")
         return true;
-    const TextView trimmedName = TrimmedView(name);
-    const PropertyRules& rules = RulesOfProperty(trimmedName);
-    return PassesLists(rules, lowered.View()) || PassesOwnRule(rules, trimmedName, lowered.View(), split);
+    return PassesLists(rules, lowered.View()) || PassesOwnRule(rules, lowered.View(), split);
 }
 
 bool ValidatePropertyValue(TextView name, TextView value) {
@@ -166,9 +170,12 @@ bool isValidEdgeValue(TextView name, TextView value) {
 }
 
 bool isValidFontValue(TextView /*name*/, TextView value, FontFamilySplit split) {
+    static const PropertyRules& size = RulesOfProperty(u"font-size");
+    static const PropertyRules& weight = RulesOfProperty(u"font-weight");
+    static const PropertyRules& variant = RulesOfProperty(u"font-variant");
     return EveryWord(value, Blank, [=](TextView word) {
-        return ValidPropertyValue(u"font-size", word, split) || ValidPropertyValue(u"font-weight", word, split) ||
-               ValidPropertyValue(u"font-variant", word, split) || IsFontStyleWord(word);
+        return ValidPropertyValue(size, word, split) || ValidPropertyValue(weight, word, split) ||
+               ValidPropertyValue(variant, word, split) || IsFontStyleWord(word);
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/PropertyRules.h"
 #include "text/Text.h"
 
 /// Whether a value is acceptable for a property.
@@ -23,6 +24,10 @@ enum class FontFamilySplit { AtComma, AtCommaAndBlank };
 /// "inherit" passes for every property only where it is written exactly so; in any other way it must be one of the
 /// property's words. "" is always acceptable.
 [[nodiscard]] bool ValidPropertyValue(TextView name, TextView value, FontFamilySplit split = FontFamilySplit::AtComma);
+
+/// The same for the property that has these rules, for callers that ask about it again and again.
+[[nodiscard]] bool ValidPropertyValue(const PropertyRules& rules, TextView value,
+                                      FontFamilySplit split = FontFamilySplit::AtComma);
 
 /// The test as the value editors make it: `ValidPropertyValue` with the font families parted at comma and blank.
 [[nodiscard]] bool ValidatePropertyValue(TextView name, TextView value);

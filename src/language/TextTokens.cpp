@@ -2,6 +2,9 @@
 
 #include "language/LexClass.h"
 #include "language/TextLines.h"
+#include "text/Narrowing.h"
+
+#include <algorithm>
 
 namespace tintora {
 
@@ -13,6 +16,8 @@ bool IsJudged(std::int32_t type) { return type == token_type::ValidValue || type
 
 std::vector<TextToken> ScanLines(TextView text) {
     std::vector<TextToken> tokens;
+    // Enough for most style sheets; what isn't needed costs nothing but addresses.
+    tokens.reserve(std::min(text.size(), MaximumTextLength) / 2);
     TextLines lines(text);
     LexClass lexer;
     for (std::int32_t row = 0; row < lines.Count(); ++row) {

@@ -46,20 +46,29 @@ class BodyCutter {
 
     /// Takes the piece up to before `end`, trimmed; the next one starts at `next`.
     void Take(std::size_t end, std::size_t next) {
-        pieces_.push_back(TrimWhitespace(Piece(end)));
+        const TextView piece = TrimmedView(Piece(end));
+        places_.push_back({static_cast<std::size_t>(piece.data() - body_.data()), piece.size()});
         start_ = next;
     }
 
-    Texts Pieces() { return std::move(pieces_); }
+    std::vector<DeclarationPlace> Places() { return std::move(places_); }
 
   private:
     TextView body_;
-    Texts pieces_;
+    std::vector<DeclarationPlace> places_;
     std::size_t start_ = 0;
 };
 
 /// A piece that counts: more than white space, and more than a lone brace.
 bool IsDeclaration(TextView piece) { return piece != u"}" && !TrimmedView(piece).empty(); }
+
+Texts TextsAt(TextView body, const std::vector<DeclarationPlace>& places) {
+    Texts texts;
+    texts.reserve(places.size());
+    for (const DeclarationPlace& place : places)
+        texts.emplace_back(body.substr(place.start, place.length));
+    return texts;
+}
 
 }  // namespace
 
@@ -79,17 +88,21 @@ Texts ExtractPropertiesAsCollection(TextView statement) {
     const Text whole = ExtractProperties(statement);
     if (whole.size() < 2 || whole == u"{}")
         return {};
-    BodyCutter cutter(WithoutBraces(whole));
+    const TextView body = WithoutBraces(whole);
+    BodyCutter cutter(body);
     // Where nothing stands between two separators the next piece begins with the second one.
     cutter.Cut([&](std::size_t index) {
         if (IsDeclaration(cutter.Piece(index)))
             cutter.Take(index, index + 1);
     });
-    return cutter.Pieces();
+    return TextsAt(body, cutter.Places());
 }
 
-Texts GetStatementProperties(TextView body) {
+Texts GetStatementProperties(TextView body) { return TextsAt(body, FindStatementProperties(body)); }
+
+std::vector<DeclarationPlace> FindStatementProperties(TextView body) {
     static_cast<void>(NarrowLength(body));
+    const TextView whole = body;
     if (body.starts_with(u'{'))
         body.remove_prefix(1);
     if (TrimmedView(body) == u"}")
@@ -105,7 +118,10 @@ Texts GetStatementProperties(TextView body) {
     });
     if (IsDeclaration(cutter.Piece(body.size())))
         cutter.Take(body.size(), body.size());
-    return cutter.Pieces();
+    std::vector<DeclarationPlace> places = cutter.Places();
+    for (DeclarationPlace& place : places)
+        place.start += static_cast<std::size_t>(body.data() - whole.data());
+    return places;
 }
 
 Text GetPropertyName(TextView declaration) {

@@ -2,6 +2,9 @@
 
 #include "text/Text.h"
 
+#include <cstddef>
+#include <vector>
+
 /// The body of a statement and its declarations.
 ///
 /// A body is what `ExtractProperties` gives, with its braces where the statement has a closing one. A declaration text
@@ -18,6 +21,15 @@ namespace tintora {
 
 /// The declaration texts of a body, or of any text between braces, with their ";". A last declaration may have none.
 [[nodiscard]] Texts GetStatementProperties(TextView body);
+
+/// Where a declaration text stands in its body, trimmed: 0-based.
+struct DeclarationPlace {
+    std::size_t start = 0;
+    std::size_t length = 0;
+};
+
+/// The places of what `GetStatementProperties` gives.
+[[nodiscard]] std::vector<DeclarationPlace> FindStatementProperties(TextView body);
 
 /// The trimmed text before the first ":"; a text without one unchanged.
 [[nodiscard]] Text GetPropertyName(TextView declaration);

@@ -197,6 +197,8 @@ long ScintillaSourceView::ByteOf(int column, int row) const {
     return BytePosition(control_, GetLineStart(row) + std::clamp(column, 0, GetLineLength(row)));
 }
 
+TextView ScintillaSourceView::LineEnd() const { return LineEndOfMode(control_.eolMode()); }
+
 QString ScintillaSourceView::LineEndName() const {
     switch (control_.eolMode()) {
         case QsciScintilla::EolWindows: return QStringLiteral("CR LF");
@@ -210,7 +212,7 @@ QString ScintillaSourceView::LineEndName() const {
 void ScintillaSourceView::ReplaceBytes(long start, long end, TextView text) {
     if (end < start)
         std::swap(start, end);
-    const std::string bytes = Utf8FromText(WithLineEnds(text, LineEndOfMode(control_.eolMode())));
+    const std::string bytes = Utf8FromText(WithLineEnds(text, LineEnd()));
     if (start == end && bytes.empty())
         return;
     Call(*this, [&] {
@@ -234,6 +236,10 @@ void ScintillaSourceView::Delete(int startColumn, int startRow, int endColumn, i
 void ScintillaSourceView::InsertOverwrite(int startColumn, int startRow, int endColumn, int endRow, TextView text) {
     ReplaceBytes(ByteOf(startColumn, startRow), ByteOf(endColumn, endRow), text);
 }
+
+void ScintillaSourceView::BeginUndoStep() { control_.beginUndoAction(); }
+
+void ScintillaSourceView::EndUndoStep() { control_.endUndoAction(); }
 
 bool ScintillaSourceView::CanUndo() const { return control_.isUndoAvailable(); }
 

@@ -35,6 +35,7 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
     [[nodiscard]] SourceStyles& Styles() override { return styles_; }
     [[nodiscard]] Text GetText() const override;
     void SetText(TextView text) override;
+    [[nodiscard]] TextView LineEnd() const override;
     [[nodiscard]] int CharWidth() const override;
     [[nodiscard]] int LineHeight() const override;
     [[nodiscard]] int CaretColumn() const override;
@@ -88,6 +89,8 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
     void Insert(int column, int row, TextView text) override;
     void Delete(int startColumn, int startRow, int endColumn, int endRow) override;
     void InsertOverwrite(int startColumn, int startRow, int endColumn, int endRow, TextView text) override;
+    void BeginUndoStep() override;
+    void EndUndoStep() override;
     [[nodiscard]] bool CanUndo() const override;
     [[nodiscard]] bool CanRedo() const override;
     void Undo() override;
