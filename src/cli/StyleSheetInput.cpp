@@ -4,26 +4,24 @@
 #include "linking/TextFiles.h"
 #include "text/Narrowing.h"
 
+#include <istream>
+#include <iterator>
 #include <memory>
 
 namespace tintora::cli {
 
-namespace {
-
-Text ReadInput(Console& console, const std::string& file) {
+std::string ReadInputBytes(Console& console, const std::string& file) {
     if (file == "-")
-        return ReadStandardInput(console);
+        return {std::istreambuf_iterator<char>(console.input), std::istreambuf_iterator<char>()};
     try {
-        return DecodeBytes(ReadFileBytes(TextFromFileName(file))).text;
+        return ReadFileBytes(TextFromFileName(file));
     } catch (const FileFailure& failure) {
         throw CommandFailure(file, failure.code().message());
     }
 }
 
-}  // namespace
-
 Text ReadStyleSheet(Console& console, const std::string& file) {
-    const Text content = ReadInput(console, file);
+    const Text content = DecodeBytes(ReadInputBytes(console, file)).text;
     const std::string limit = std::to_string(MaximumTextLength);
     try {
         Text sheet = ExtractStyleSheetText(content);

@@ -13,6 +13,9 @@ namespace tintora::cli {
 /// Throws `CommandFailure` for a file that can't be read, and for a text beyond the length limit.
 [[nodiscard]] Text ReadStyleSheet(Console& console, const std::string& file);
 
+/// The bytes of a file, "-" being standard input. Throws `CommandFailure` for a file that can't be read.
+[[nodiscard]] std::string ReadInputBytes(Console& console, const std::string& file);
+
 /// Adds a command that takes one FILE and hands it to `run`.
 void AddFileCommand(CLI::App& app, Console& console, const std::string& name, const std::string& description,
                     void (*run)(Console&, const std::string&));

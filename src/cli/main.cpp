@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/Console.h"
+#include "cli/EditingCommands.h"
 #include "cli/JudgingCommands.h"
 #include "cli/ReadingCommands.h"
 
@@ -40,6 +41,7 @@ int Run(const std::vector<std::string>& arguments, Console& console) {
         ->trigger_on_parse();
     tintora::cli::AddReadingCommands(app, console);
     tintora::cli::AddJudgingCommands(app, console);
+    tintora::cli::AddEditingCommands(app, console);
     const std::string version = "tintora-cli " TINTORA_VERSION;
     app.set_version_flag("--version", version);
     for (CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; }))

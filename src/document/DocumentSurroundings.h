@@ -1,0 +1,89 @@
+#pragma once
+
+#include "editor/EditorSurroundings.h"
+#include "text/Text.h"
+
+/// What a document window calls outside of itself: the main window, the palettes, the preview and its questions.
+namespace tintora {
+
+/// The main window, as a document sees it.
+class DocumentFrame : public EditorFrame {
+  public:
+    /// Enables the toolbar of core properties, or clears and disables it.
+    virtual void EnableCorePropertiesToolbar(bool enabled) = 0;
+
+    /// Shows the declarations of a rule's body on it.
+    virtual void SetUpCorePropertiesToolbar(TextView body) = 0;
+
+    /// The statements have been read again from the text.
+    virtual void StatementsCached() = 0;
+
+    /// The text has come to differ from the file, or has ceased to.
+    virtual void DirtyChanged(bool isDirty) = 0;
+
+    /// Brings the document's pane to the front, so that the focus is in the text.
+    virtual void BringDocumentToFront() = 0;
+};
+
+/// The palette of statements. It must exist.
+class StatementsPalette {
+  public:
+    virtual ~StatementsPalette() = default;
+
+    [[nodiscard]] virtual bool IsOpen() const = 0;
+
+    /// All statements, trimmed, and the selector of the current one.
+    virtual void UpdateSelectors(const Texts& statements, TextView currentSelector) = 0;
+
+    /// The statement at the caret, 1-based; 0 for none.
+    virtual void SelectStatement(int number) = 0;
+};
+
+/// The palette of property editors.
+class PropertiesPalette {
+  public:
+    virtual ~PropertiesPalette() = default;
+
+    [[nodiscard]] virtual bool IsOpen() const = 0;
+    virtual void Enable() = 0;
+    virtual void Disable() = 0;
+
+    /// The body of the current rule; "" for none.
+    virtual void SetProperties(TextView body) = 0;
+    virtual void SelectPropertyinText(TextView name) = 0;
+    virtual void EditProperty(TextView name) = 0;
+
+    /// The feature that was shown last: the type of the current selector.
+    virtual void SetLastProperty(int feature) = 0;
+};
+
+/// The preview panes.
+class PreviewPanes {
+  public:
+    virtual ~PreviewPanes() = default;
+
+    virtual void PreviewNow() = 0;
+    virtual void PreviewCurrentRule() = 0;
+};
+
+/// The warnings about what browsers don't support.
+class SupportWarnings {
+  public:
+    virtual ~SupportWarnings() = default;
+
+    virtual void SetUpWarnings(int feature) = 0;
+};
+
+/// The forms that make and edit statements.
+class StatementDialogs {
+  public:
+    virtual ~StatementDialogs() = default;
+
+    /// The kind of statement that the user wants to make; "" if the question is cancelled.
+    [[nodiscard]] virtual Text AskStatementKind() = 0;
+
+    /// The form for a kind, filled with `value`; gives the new text, "" if it is cancelled.
+    [[nodiscard]] virtual Text EditSelector(TextView kind, TextView value) = 0;
+};
+
+}  // namespace tintora

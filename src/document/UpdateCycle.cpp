@@ -1,0 +1,241 @@
+// What follows a key, a move of the caret or a change of the text, and when.
+
+#include "document/ktStyleSheetWindow.h"
+#include "language/FeatureNames.h"
+#include "language/PropertyValidation.h"
+#include "settings/Settings.h"
+#include "text/Whitespace.h"
+
+#include <array>
+
+namespace tintora {
+
+void ktStyleSheetWindow::SetNeedsUpdating(bool needsUpdating) {
+    needsUpdating_ = needsUpdating;
+    if (needsUpdating)
+        idleTimer_->Restart();
+    else
+        idleTimer_->Stop();
+}
+
+void ktStyleSheetWindow::SetSelectorsNeedUpdating(bool needUpdating) {
+    selectorsNeedUpdating_ = needUpdating;
+    if (needUpdating)
+        idleTimer_->Restart();
+    else
+        idleTimer_->Stop();
+}
+
+void ktStyleSheetWindow::TextChanged() {
+    SetDirty(true);
+    cacheStatementsDelay_->Restart();
+}
+
+void ktStyleSheetWindow::SelectionChanged() { selectionChangedDelay_->Restart(); }
+
+void ktStyleSheetWindow::CacheStatements() {
+    cacheStatementsDelay_->Stop();
+    styleSheet_.CacheStatements();
+    frame_.StatementsCached();
+}
+
+void ktStyleSheetWindow::UpdateOnIdle() {
+    if (needsUpdating_) {
+        UpdateEditorsOnStyleSheetChange();
+        DoLivePreview();
+    } else if (needsPreviewing_) {
+        DoLivePreview();
+    }
+    if (selectorsNeedUpdating_)
+        UpdateSelectorsPalette();
+    needsPreviewing_ = false;
+    SetNeedsUpdating(false);
+    SetSelectorsNeedUpdating(false);
+}
+
+void ktStyleSheetWindow::UpdateNow() {
+    CacheStatements();
+    if (needsUpdating_) {
+        UpdateEditorsOnStyleSheetChange();
+        DoLivePreview();
+    } else if (needsPreviewing_) {
+        DoLivePreview();
+    }
+    needsPreviewing_ = false;
+    SetNeedsUpdating(false);
+}
+
+void ktStyleSheetWindow::DisableUpdates() { idleTimer_->Stop(); }
+
+void ktStyleSheetWindow::ResetIdleTimer() { idleTimer_->Restart(); }
+
+void ktStyleSheetWindow::LivePreview() { previewDelay_->Restart(); }
+
+void ktStyleSheetWindow::DisableNextPreview() { previewDelay_->Stop(); }
+
+void ktStyleSheetWindow::DoLivePreview() {
+    if (!Settings(settings_).GetLivePreviewOn())
+        return;
+    preview_.PreviewNow();
+    preview_.PreviewCurrentRule();
+}
+
+void ktStyleSheetWindow::UpdateEditors() {
+    UpdateSelectorsPalette();
+    UpdatePropertiesEditor();
+    UpdateCorePropertiesToolbar();
+}
+
+void ktStyleSheetWindow::UpdateEditorsOnStyleSheetChange() {
+    UpdatePropertiesEditor();
+    UpdateCorePropertiesToolbar();
+    UpdateSelectorsPalette();
+}
+
+void ktStyleSheetWindow::UpdateSelectorsPalette() {
+    if (statements_.IsOpen())
+        statements_.UpdateSelectors(styleSheet_.GetAllStatementsAsText(), StripLeftWhitespace(GetCurrentSelector()));
+}
+
+void ktStyleSheetWindow::ClearSelectorsPalette() {
+    if (statements_.IsOpen())
+        statements_.UpdateSelectors({}, {});
+}
+
+void ktStyleSheetWindow::UpdatePropertiesEditor() {
+    if (!properties_.IsOpen())
+        return;
+    const int offset = GetSelectionStart();
+    const int type = styleSheet_.GetSelectorType(styleSheet_.GetSelectorFromSelection(offset));
+    const Text statement = GetCurrentStatement();
+    const bool hasRule = statement.find(u'{') != Text::npos && type >= selector_type::Type;
+    const int end = styleSheet_.GetStatementStartChar(offset) + static_cast<int>(statement.size());
+    if (!hasRule || offset > end) {
+        ClearPropertiesEditor();
+        return;
+    }
+    properties_.Enable();
+    properties_.SetProperties(styleSheet_.GetPropertiesFromSelection(offset));
+}
+
+void ktStyleSheetWindow::ClearPropertiesEditor() {
+    properties_.Disable();
+    properties_.SetProperties({});
+}
+
+void ktStyleSheetWindow::DisablePropertiesEditors() {
+    if (properties_.IsOpen())
+        ClearPropertiesEditor();
+}
+
+void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
+    const int offset = GetSelectionStart();
+    const int type = styleSheet_.GetSelectorType(styleSheet_.GetSelectorFromSelection(offset));
+    const bool hasRule = GetCurrentStatement().find(u'{') != Text::npos && type >= selector_type::Type;
+    frame_.EnableCorePropertiesToolbar(hasRule);
+    if (hasRule)
+        frame_.SetUpCorePropertiesToolbar(styleSheet_.GetPropertiesFromSelection(offset));
+}
+
+void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
+    selectionChangedDelay_->Stop();
+    const Text name = styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(offset));
+    const int number = GetCurrentStatementNumber(offset);
+    statements_.SelectStatement(number);
+    // The caret at the end of the text may belong to the last statement without the number having changed.
+    const auto count = static_cast<int>(styleSheet_.GetAllStatementsAsTextUnstripped().size());
+    const bool isOther = number != lastSelectedStatement_ || number == count;
+    if (isOther) {
+        lastSelectedStatement_ = number;
+        UpdateCorePropertiesToolbar();
+        UpdatePropertiesEditor();
+        if (Settings(settings_).GetLivePreviewOn())
+            preview_.PreviewCurrentRule();
+    }
+    if (properties_.IsOpen())
+        properties_.SelectPropertyinText(name);
+    if (!GetCurrentSelector().empty() && name.empty()) {
+        const int type = GetCurrentSelectorType();
+        warnings_.SetUpWarnings(type);
+        if (properties_.IsOpen())
+            properties_.SetLastProperty(type);
+    }
+    frame_.UpdateMenus();
+}
+
+void ktStyleSheetWindow::KeyDown(int code) {
+    if (GetCurrentSelectorType() < selector_type::Type || code == key_code::ClosingBracketOrBrace ||
+        code == key_code::SemicolonOrColon) {
+        SetNeedsUpdating(true);
+    } else {
+        Text value = GetCurrentPropertyValue();
+        if (code != 0)
+            value.push_back(static_cast<char16_t>(code));
+        // A declaration that was valid before this key goes out to the palettes now.
+        if (value.empty() || !ValidatePropertyValue(GetCurrentPropertyName(), value))
+            SetNeedsUpdating(false);
+        else
+            UpdateOnIdle();
+    }
+    // While a key is down nothing is updated.
+    DisableUpdates();
+}
+
+void ktStyleSheetWindow::KeyUp(int code) {
+    const auto isValid = [](const Text& name, const Text& value) {
+        return !value.empty() && ValidatePropertyValue(name, value);
+    };
+    if (GetCurrentSelectorType() < selector_type::Type) {
+        SetSelectorsNeedUpdating(true);
+    } else if (CursorInSelector()) {
+        SetSelectorsNeedUpdating(true);
+        SetNeedsUpdating(true);
+    } else if (WholeStatementSelected()) {
+        SetSelectorsNeedUpdating(true);
+    } else if (code == key_code::ClosingBracketOrBrace || code == key_code::Backspace) {
+        SetNeedsUpdating(true);
+    } else if (code == key_code::SemicolonOrColon) {
+        const int offset = GetSelectionStart() - 1;
+        const Text value = GetCurrentPropertyValueFromChar(offset);
+        // Where the value is valid the press has set the flag already.
+        if (!value.empty() && !ValidatePropertyValue(GetCurrentPropertyNameFromChar(offset), value))
+            SetNeedsUpdating(true);
+    } else {
+        SetNeedsUpdating(isValid(GetCurrentPropertyNameFromText(), GetCurrentPropertyValueFromText()));
+    }
+}
+
+bool ktStyleSheetWindow::WholeStatementSelected() const {
+    const Text selected = editor_.GetSelectedText();
+    constexpr auto Marks = std::to_array<TextView>({u"{", u"}", u"/*", u"*/", u"@media"});
+    for (const TextView mark : Marks) {
+        if (selected.find(mark) != Text::npos)
+            return true;
+    }
+    return false;
+}
+
+void ktStyleSheetWindow::DeleteKeyDown() {
+    SetNeedsUpdating(true);
+    DisableUpdates();
+    EnableUpdates();
+}
+
+void ktStyleSheetWindow::HandleCutPasteClear(TextView) {
+    SetNeedsUpdating(true);
+    UpdateNow();
+}
+
+void ktStyleSheetWindow::Undo() {
+    SetNeedsUpdating(true);
+    CacheStatements();
+    UpdateEditorsOnStyleSheetChange();
+}
+
+void ktStyleSheetWindow::FinishChange() {
+    CacheStatements();
+    UpdateEditorsOnStyleSheetChange();
+    LivePreview();
+}
+
+}  // namespace tintora
