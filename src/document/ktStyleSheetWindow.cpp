@@ -31,6 +31,7 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
       textEditor_(surroundings.textEditor),
       editor_({surroundings.textEditor, *this, surroundings.frame, surroundings.clipboard, surroundings.editorDialogs,
                surroundings.settings}),
+      keyRoad_(*this, editor_),
       cacheStatementsDelay_(surroundings.clock.MakeTimer(CacheInterval, [this] { CacheStatements(); })),
       selectionChangedDelay_(
           surroundings.clock.MakeTimer(SelectionInterval, [this] { SelectionChangedEvent(GetSelectionStart()); })),
@@ -40,11 +41,18 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
           needsPreviewing_ = false;
       })) {
     styleSheet_.setWindow(this);
+    textEditor_.SetEvents(&keyRoad_);
     // A new window brings the palettes to itself.
     selectionChangedDelay_->Restart();
 }
 
-ktStyleSheetWindow::~ktStyleSheetWindow() = default;
+ktStyleSheetWindow::~ktStyleSheetWindow() { textEditor_.SetEvents(nullptr); }
+
+void ktStyleSheetWindow::OpenStyleSheet(TextView path) {
+    styleSheet_.OpenStyleSheet(path);
+    UpdateSelectorsPalette();
+    LivePreview();
+}
 
 void ktStyleSheetWindow::SetText(TextView text) {
     editor_.SetText(text);

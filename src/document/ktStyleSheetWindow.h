@@ -2,6 +2,7 @@
 
 #include "document/Clock.h"
 #include "document/DocumentSurroundings.h"
+#include "document/KeyRoad.h"
 #include "document/Separators.h"
 #include "editor/CSSEditorSrcView.h"
 #include "model/StyleSheetTextSource.h"
@@ -55,6 +56,9 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     // The text and the selection, as the editor has them.
 
     [[nodiscard]] Text GetText() const override { return editor_.GetText(); }
+
+    /// Opens a file: its path is stored, its text loaded, and the palettes and the preview follow.
+    void OpenStyleSheet(TextView path);
 
     /// Loads a text into the editor and reads its statements.
     void SetText(TextView text);
@@ -230,6 +234,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     SourceView& textEditor_;
     ktStyleSheet styleSheet_;
     CSSEditorSrcView editor_;
+    KeyRoad keyRoad_;
     std::unique_ptr<DelayTimer> cacheStatementsDelay_;
     std::unique_ptr<DelayTimer> selectionChangedDelay_;
     std::unique_ptr<DelayTimer> idleTimer_;

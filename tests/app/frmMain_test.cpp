@@ -146,10 +146,10 @@ TEST_F(frmMainTest, ATextAtTheLimitIsScannedAndOneBeyondItIsToldOnceAndKept) {
 
     StyleSheetPane& pane = *window->ActiveDocument();
     pane.View().Control().SendScintilla(QsciScintilla::SCI_DELETERANGE, 5UL, 40000L);
-    pane.CacheStatements();
+    pane.Window().CacheStatements();
     EXPECT_EQ(Selectors().size(), 1);
     pane.View().Control().append(QString(40000, QLatin1Char('b')));
-    EXPECT_THROW(pane.CacheStatements(), OverflowFailure);
+    EXPECT_THROW(pane.Window().CacheStatements(), OverflowFailure);
     window->ReportOverflow();
     EXPECT_EQ(told.messages.size(), 2) << "once more after it had fitted";
 }
@@ -224,7 +224,7 @@ TEST_F(frmMainTest, AMaximisedWindowComesUpMaximisedAgain) {
 TEST_F(frmMainTest, KeepingADirtyStyleSheetKeepsTheWindowAndStoresNothing) {
     window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}"));
     window->show();
-    window->ActiveDocument()->View().Control().append(QStringLiteral("x"));
+    window->ActiveDocument()->Window().InsertText(u"x", 0);
     told.mayDiscard = false;
     const std::size_t stored = store.Size();
     EXPECT_FALSE(window->close());
@@ -243,7 +243,7 @@ TEST_F(frmMainTest, ClosingAPaneAsksOnlyForUnsavedChanges) {
     EXPECT_TRUE(told.questions.isEmpty());
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));
     EXPECT_EQ(Selectors(), QStringList({"h1"}));
-    window->ActiveDocument()->View().Control().append(QStringLiteral("x"));
+    window->ActiveDocument()->Window().InsertText(u"x", 0);
     told.mayDiscard = false;
     close->trigger();
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));

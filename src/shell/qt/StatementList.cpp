@@ -34,8 +34,10 @@ void StatementList::Follow(StyleSheetPane* pane) {
     pane_ = pane;
     if (pane_ != nullptr) {
         connect(pane_, &StyleSheetPane::StatementsChanged, this, &StatementList::Fill);
+        connect(pane_, &StyleSheetPane::CurrentStatementChanged, this, &StatementList::ShowCurrent);
         connect(pane_, &QObject::destroyed, this, [this] { Follow(nullptr); });
     }
+    currentNumber_ = 0;
     Fill();
 }
 
@@ -59,6 +61,15 @@ void StatementList::Fill() {
     }
     expandAll();
     verticalScrollBar()->setValue(scrolled);
+    ShowCurrent(currentNumber_);
+}
+
+void StatementList::ShowCurrent(int number) {
+    currentNumber_ = number;
+    for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item) {
+        if ((*item)->data(0, StatementNumber).toInt() == number)
+            setCurrentItem(*item);
+    }
 }
 
 void StatementList::SelectInText(const QTreeWidgetItem* item) {

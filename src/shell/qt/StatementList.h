@@ -21,8 +21,10 @@ class StatementList : public QTreeWidget {
   private:
     void Fill();
     void SelectInText(const QTreeWidgetItem* item);
+    void ShowCurrent(int number);
 
     StyleSheetPane* pane_ = nullptr;
+    int currentNumber_ = 0;
 };
 
 }  // namespace tintora

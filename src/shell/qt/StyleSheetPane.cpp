@@ -1,62 +1,44 @@
 #include "shell/qt/StyleSheetPane.h"
 
-#include "linking/HtmlStyle.h"
 #include "linking/Paths.h"
+#include "linking/TextFiles.h"
 #include "text/qt/QtText.h"
 
 #include <QVBoxLayout>
-#include <chrono>
+#include <algorithm>
+#include <array>
 
 namespace tintora {
 
 namespace {
 
-constexpr std::chrono::milliseconds CacheDelay{300};
-
-/// Of the entries of the contextual menu those that edit text. There is nothing yet that the others would open.
-bool EditsText(const ContextMenuEntry& entry) {
-    for (const TextView caption : {u"Cut", u"Copy", u"Paste", u"Select All", u"Clear"}) {
-        if (entry.caption == caption)
-            return true;
-    }
-    return false;
+/// Whether an entry of the contextual menu does something: the forms that the others open aren't there yet.
+bool IsBuilt(const ContextMenuEntry& entry) {
+    constexpr auto Unbuilt = std::to_array<TextView>({u"Edit Property", u"New Statement", u"Edit Selector"});
+    return std::find(Unbuilt.begin(), Unbuilt.end(), entry.caption) == Unbuilt.end();
 }
 
 }  // namespace
 
 StyleSheetPane::StyleSheetPane(const QString& caption, EditorFrame& frame, SettingsStore& settings)
-    : caption_(caption),
-      dialogs_(*this, EditsText),
+    : frame_(frame),
+      caption_(caption),
+      dialogs_(*this, IsBuilt),
       view_(this),
-      editor_({view_, *this, frame, clipboard_, dialogs_, settings}) {
+      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, dialogs_, clipboard_, settings, clock_}) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(&view_);
     setFocusProxy(&view_);
-    styleSheet_.setWindow(this);
-    cacheStatementsDelay_.setSingleShot(true);
-    cacheStatementsDelay_.setInterval(CacheDelay);
-    connect(&cacheStatementsDelay_, &QTimer::timeout, this, &StyleSheetPane::CacheStatements);
-    connect(&view_.Control(), &QsciScintilla::modificationChanged, this, &StyleSheetPane::DirtyChanged);
 }
 
-StyleSheetPane::~StyleSheetPane() { view_.Control().disconnect(this); }
+StyleSheetPane::~StyleSheetPane() = default;
 
 void StyleSheetPane::OpenStyleSheet(TextView path) {
-    styleSheet_.OpenStyleSheet(path);
-    CacheStatements();
+    caption_ = ToQString(GetFileNamePart(path));
+    encoding_ = ReadDecodedFile(path).encoding;
+    window_.OpenStyleSheet(path);
 }
-
-void StyleSheetPane::LoadContent(TextView file) {
-    const DecodedText content = ReadDecodedFile(file);
-    editor_.SetText(ExtractStyleSheetText(content.text));
-    encoding_ = content.encoding;
-    caption_ = ToQString(GetFileNamePart(file));
-}
-
-bool StyleSheetPane::IsDirty() const { return view_.IsModified(); }
-
-Text StyleSheetPane::GetText() const { return editor_.GetText(); }
 
 QString StyleSheetPane::FormatName() const {
     return (encoding_ == Encoding::Utf8 ? QStringLiteral("UTF-8") : QStringLiteral("windows-1252")) +
@@ -64,29 +46,8 @@ QString StyleSheetPane::FormatName() const {
 }
 
 void StyleSheetPane::SelectText(int start, int length) {
-    editor_.SetSelection(start, start + length);
+    window_.SetSelection(start, start + length);
     view_.setFocus();
-}
-
-void StyleSheetPane::CacheStatements() {
-    cacheStatementsDelay_.stop();
-    styleSheet_.CacheStatements();
-    Q_EMIT StatementsChanged();
-}
-
-void StyleSheetPane::TextChanged() { cacheStatementsDelay_.start(); }
-
-void StyleSheetPane::HandleCutPasteClear(TextView) { CacheStatements(); }
-
-void StyleSheetPane::Undo() { CacheStatements(); }
-
-void StyleSheetPane::SetNeedsUpdating(bool needsUpdating) {
-    if (needsUpdating)
-        cacheStatementsDelay_.start();
-}
-
-Text StyleSheetPane::GetCurrentPropertyName() {
-    return styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(editor_.GetSelectionStart()));
 }
 
 }  // namespace tintora

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "editor/CSSEditorSrcView.h"
+#include "document/ktStyleSheetWindow.h"
+#include "document/qt/QtClock.h"
 #include "editor/qt/EditorDialogBoxes.h"
 #include "editor/qt/QtClipboard.h"
 #include "editor/qt/ScintillaSourceView.h"
-#include "linking/TextFiles.h"
-#include "model/StyleSheetTextSource.h"
-#include "model/ktStyleSheet.h"
+#include "shell/qt/UnbuiltPalettes.h"
+#include "text/Encoding.h"
 
-#include <QTimer>
 #include <QWidget>
 
 namespace tintora {
 
-/// One open style sheet: its text in the source editor, and its model, which follows the text with a delay.
-class StyleSheetPane : public QWidget, private StyleSheetTextSource, private EditorParent {
+/// The pane of one open style sheet: its text in the source editor, and the document window behind it.
+class StyleSheetPane : public QWidget, private DocumentFrame, private StatementsPalette {
     Q_OBJECT
 
   public:
@@ -27,12 +26,13 @@ class StyleSheetPane : public QWidget, private StyleSheetTextSource, private Edi
     /// length limit, which is then in the editor all the same.
     void OpenStyleSheet(TextView path);
 
-    [[nodiscard]] const Text& File() const noexcept { return styleSheet_.File(); }
+    [[nodiscard]] const Text& File() const noexcept { return window_.StyleSheet().File(); }
     [[nodiscard]] const QString& Caption() const noexcept { return caption_; }
-    [[nodiscard]] bool IsDirty() const;
-    [[nodiscard]] Text GetText() const override;
-    [[nodiscard]] const ktStyleSheet& StyleSheet() const noexcept { return styleSheet_; }
-    [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return editor_; }
+    [[nodiscard]] bool IsDirty() const noexcept { return window_.IsDirty(); }
+    [[nodiscard]] Text GetText() const { return window_.GetText(); }
+    [[nodiscard]] const ktStyleSheet& StyleSheet() const noexcept { return window_.StyleSheet(); }
+    [[nodiscard]] ktStyleSheetWindow& Window() noexcept { return window_; }
+    [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return window_.CSSEditor(); }
     [[nodiscard]] ScintillaSourceView& View() noexcept { return view_; }
 
     /// The encoding of the file and the line end of the text, for the status bar.
@@ -41,40 +41,37 @@ class StyleSheetPane : public QWidget, private StyleSheetTextSource, private Edi
     /// Selects `length` code units from the 0-based offset `start`, scrolls there, and gives the editor the focus.
     void SelectText(int start, int length);
 
-    /// Brings the model up to date with the text. Throws `OverflowFailure` beyond the length limit, with the model left
-    /// as it was.
-    void CacheStatements();
-
   Q_SIGNALS:
     void StatementsChanged();
-    void DirtyChanged(bool dirty);
+    void CurrentStatementChanged(int number);
+    void DirtyStateChanged();
 
   private:
-    void LoadContent(TextView file) override;
+    // DocumentFrame
+    [[nodiscard]] bool IsDocumentInFront() const override { return frame_.IsDocumentInFront(); }
+    void UpdateMenuItem(TextView key, bool enabled) override { frame_.UpdateMenuItem(key, enabled); }
+    void UpdateMenus() override { frame_.UpdateMenus(); }
+    void SetStatusBarText(TextView pane, TextView text) override { frame_.SetStatusBarText(pane, text); }
+    void EnableCorePropertiesToolbar(bool) override {}
+    void SetUpCorePropertiesToolbar(TextView) override {}
+    void StatementsCached() override { Q_EMIT StatementsChanged(); }
+    void DirtyChanged(bool) override { Q_EMIT DirtyStateChanged(); }
+    void BringDocumentToFront() override { view_.setFocus(); }
 
-    // EditorParent. What makes and changes whole statements is no part of the program yet.
-    void TextChanged() override;
-    void SelectionChanged() override {}
-    void DeleteKeyDown() override {}
-    void SpecialKeyUp() override {}
-    void HandleCutPasteClear(TextView text) override;
-    void Undo() override;
-    void SetNeedsUpdating(bool needsUpdating) override;
-    void NewStatement(TextView) override {}
-    void EditStatement() override {}
-    void DuplicateStatement() override {}
-    void DeleteStatement() override {}
-    void EditCurrentProperty() override {}
-    [[nodiscard]] Text GetCurrentPropertyName() override;
+    // StatementsPalette: the list of statements follows the signals.
+    [[nodiscard]] bool IsOpen() const override { return true; }
+    void UpdateSelectors(const Texts&, TextView) override { Q_EMIT StatementsChanged(); }
+    void SelectStatement(int number) override { Q_EMIT CurrentStatementChanged(number); }
 
+    EditorFrame& frame_;
     QString caption_;
     Encoding encoding_ = Encoding::Utf8;
-    ktStyleSheet styleSheet_;
+    QtClock clock_;
     QtClipboard clipboard_;
     EditorDialogBoxes dialogs_;
+    UnbuiltPalettes unbuilt_;
     ScintillaSourceView view_;
-    CSSEditorSrcView editor_;
-    QTimer cacheStatementsDelay_;
+    ktStyleSheetWindow window_;
 };
 
 }  // namespace tintora

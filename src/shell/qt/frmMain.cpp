@@ -168,7 +168,7 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
 StyleSheetPane* frmMain::OpenNewStyleSheet() {
     ++newDocumentCount_;
     auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this, store_);
-    connect(pane, &StyleSheetPane::DirtyChanged, this, [this, pane] { UpdateCaption(pane); });
+    connect(pane, &StyleSheetPane::DirtyStateChanged, this, [this, pane] { UpdateCaption(pane); });
     connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
     documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
