@@ -99,9 +99,9 @@ void CSSEditorSrcView::CommentOut() {
 
 void CSSEditorSrcView::GotoLine() {
     const std::optional<int> number = dialogs_.AskLineNumber();
-    if (!number || *number - 1 > textEditor_.Buffer().NumLines())
+    if (!number || *number > textEditor_.Buffer().NumLines() + 1)
         return;
-    const int offset = XYToCharOffset(0, *number - 1);
+    const int offset = XYToCharOffset(0, std::max(*number, 0) - 1);
     SetSelection(offset, offset);
 }
 

@@ -18,8 +18,11 @@ int ShiftOf(TextView line, SourceCommand command) {
     return -static_cast<int>(std::min(blanks, IndentWidth));
 }
 
-Text Shifted(TextView line, int shift) {
-    return shift > 0 ? u"\t" + Text(line) : Text(line.substr(static_cast<std::size_t>(-shift)));
+void Shift(SourceBuffer& buffer, int row, int shift) {
+    if (shift > 0)
+        buffer.Insert(0, row, u"\t");
+    else if (shift < 0)
+        buffer.Delete(0, row, -shift, row);
 }
 
 }  // namespace
@@ -33,25 +36,21 @@ void IndentSelectedRows(SourceView& view, SourceCommand command) {
     if (last > first && lastColumn == 0)
         --last;
 
-    Text rows;
-    bool changes = false;
+    // Row by row, so that each keeps its own line end.
     SelectionRange shifted = range;
-    for (int row = first; row <= last; ++row) {
-        const Text line = buffer.GetLine(row);
-        const int shift = ShiftOf(line, command);
-        changes = changes || shift != 0;
-        rows += Shifted(line, shift);
-        if (row < last)
-            rows += u'\n';
-        if (row == range.startRow)
-            shifted.startColumn = std::max(range.startColumn + shift, 0);
-        if (row == range.endRow)
-            shifted.endColumn = std::max(range.endColumn + shift, 0);
+    {
+        const UndoStep step(buffer);
+        for (int row = first; row <= last; ++row) {
+            const int shift = ShiftOf(buffer.GetLine(row), command);
+            Shift(buffer, row, shift);
+            if (row == range.startRow)
+                shifted.startColumn = std::max(range.startColumn + shift, 0);
+            if (row == range.endRow)
+                shifted.endColumn = std::max(range.endColumn + shift, 0);
+        }
     }
-    if (!changes)
-        return;
-    buffer.InsertOverwrite(0, first, buffer.GetLineLength(last), last, rows);
-    view.SelectRange(shifted);
+    if (view.GetSelectionRange() != shifted)
+        view.SelectRange(shifted);
 }
 
 }  // namespace tintora

@@ -34,8 +34,6 @@ void LineTokens::RowsChanged(int row, int removed, int added) {
     const auto place = rows_.erase(behind, behind + removed);
     rows_.insert(place, static_cast<std::size_t>(added), Row());
     staleCount_ += added;
-    if (added > 0)
-        firstStale_ = std::min(firstStale_, row + 1);
     MarkStale(row);
     // The row behind began with the flags of a row that may not be in front of it any longer.
     if (removed > 0 || added > 0)

@@ -176,12 +176,15 @@ void MemorySourceView::SelectRange(const SelectionRange& range) {
 }
 
 void MemorySourceView::ReportSelection() {
-    if (anchor_ == reportedAnchor_ && caret_ == reportedCaret_)
+    // A change in front of the caret may move it to another row at the same offset, or the other way round.
+    const SelectionRange range = GetSelectionRange();
+    if (anchor_ == reportedAnchor_ && caret_ == reportedCaret_ && range == reportedRange_)
         return;
     reportedAnchor_ = anchor_;
     reportedCaret_ = caret_;
+    reportedRange_ = range;
     if (events_ != nullptr)
-        events_->SelectionChanged(CaretColumn(), CaretRow());
+        events_->SelectionChanged(range.endColumn, range.endRow);
 }
 
 // Tokens.
@@ -234,18 +237,31 @@ void MemorySourceView::ExecuteCommand(SourceCommand command) { IndentSelectedRow
 
 void MemorySourceView::TypeCharacter(char16_t character) { ReplaceRange(anchor_, caret_, TextView(&character, 1)); }
 
+int MemorySourceView::LengthOfCharacterAt(int pair, int single) const {
+    const bool hasPair = pair >= 0 && pair + 1 < Length();
+    if (hasPair) {
+        const char16_t first = text_[static_cast<std::size_t>(pair)];
+        const char16_t second = text_[static_cast<std::size_t>(pair + 1)];
+        const bool isLineEnd = first == u'\r' && second == u'\n';
+        const bool isSurrogatePair = (first & 0xFC00) == 0xD800 && (second & 0xFC00) == 0xDC00;
+        if (isLineEnd || isSurrogatePair)
+            return 2;
+    }
+    return single >= 1 && single <= Length() ? 1 : 0;
+}
+
 void MemorySourceView::PressBackspace() {
     if (HasSelection())
         ClearSelection();
     else
-        ReplaceRange(std::max(caret_ - 1, 0), caret_, {});
+        ReplaceRange(caret_ - LengthOfCharacterAt(caret_ - 2, caret_), caret_, {});
 }
 
 void MemorySourceView::PressDelete() {
     if (HasSelection())
         ClearSelection();
     else
-        ReplaceRange(caret_, std::min(caret_ + 1, Length()), {});
+        ReplaceRange(caret_, caret_ + LengthOfCharacterAt(caret_, caret_ + 1), {});
 }
 
 void MemorySourceView::MoveCaret(int offset) {

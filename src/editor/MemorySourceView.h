@@ -104,6 +104,10 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     void ReplaceRange(int start, int end, TextView text);
     void Apply(int offset, int removedLength, TextView added, int caret);
     void ReportSelection();
+
+    /// 2 where a CR LF or a character of two units stands at the offset `pair`; else 1 if there is a unit in front of
+    /// the offset `single`, and 0 if there is none.
+    [[nodiscard]] int LengthOfCharacterAt(int pair, int single) const;
     void ScanStale();
 
     Clipboard& clipboard_;
@@ -118,6 +122,7 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     int caret_ = 0;
     int reportedAnchor_ = 0;
     int reportedCaret_ = 0;
+    SelectionRange reportedRange_;
     std::vector<std::vector<Change>> undoSteps_;
     std::vector<std::vector<Change>> redoSteps_;
     int openSteps_ = 0;

@@ -3,7 +3,6 @@
 #include "editor/Indentation.h"
 #include "editor/qt/FindBar.h"
 #include "editor/qt/KeyCodes.h"
-#include "editor/qt/ScintillaOffsets.h"
 #include "text/Encoding.h"
 #include "text/LineEnds.h"
 #include "text/Narrowing.h"
@@ -69,6 +68,7 @@ ScintillaSourceView::ScintillaSourceView(QWidget* parent)
     : QWidget(parent),
       control_(*this, this),
       styles_(control_),
+      offsets_(control_),
       findBar_(new FindBar(
           control_,
           [this](const std::function<void()>& change) {
@@ -95,7 +95,7 @@ ScintillaSourceView::~ScintillaSourceView() {
 
 void ScintillaSourceView::SetUpControl() {
     control_.setUtf8(true);
-    KeepCodeUnitIndex(control_);
+    UseUtf8(control_);
     control_.setFrameShape(QFrame::NoFrame);
     control_.setAccessibleName(QStringLiteral("Style sheet text"));
     control_.setMarginType(LineNumberMargin, QsciScintilla::NumberMargin);
@@ -153,40 +153,26 @@ long ScintillaSourceView::LineStartByte(int row) const {
                             : control_.SendScintilla(Control::SCI_GETLENGTH);
 }
 
-int ScintillaSourceView::GetLineStart(int row) const {
-    if (row < 0)
-        return 0;
-    return static_cast<int>(control_.SendScintilla(Control::SCI_INDEXPOSITIONFROMLINE, Word(std::min(row, NumLines())),
-                                                   static_cast<long>(Control::SC_LINECHARACTERINDEX_UTF16)));
-}
+int ScintillaSourceView::GetLineStart(int row) const { return offsets_.Rows().StartOf(row); }
 
-int ScintillaSourceView::GetRowAt(int offset) const {
-    return static_cast<int>(control_.SendScintilla(Control::SCI_LINEFROMINDEXPOSITION, Word(std::max(offset, 0)),
-                                                   static_cast<long>(Control::SC_LINECHARACTERINDEX_UTF16)));
-}
+int ScintillaSourceView::GetRowAt(int offset) const { return offsets_.Rows().RowAt(offset); }
 
-int ScintillaSourceView::GetTrueLineLength(int row) const { return GetLineStart(row + 1) - GetLineStart(row); }
+int ScintillaSourceView::GetTrueLineLength(int row) const { return offsets_.Rows().LengthOf(row); }
 
 Text ScintillaSourceView::GetLine(int row) const {
-    const long start = LineStartByte(row);
-    const long end = LineStartByte(row + 1);
-    if (start == end)
+    if (row < 0 || row >= NumLines())
         return {};
-    const auto* const bytes =
-        reinterpret_cast<const char*>(control_.SendScintilla(Control::SCI_GETRANGEPOINTER, Word(start), end - start));
-    Text line = TextFromUtf8({bytes, static_cast<std::size_t>(end - start)});
-    if (line.ends_with(u'\n'))
-        line.pop_back();
-    if (line.ends_with(u'\r'))
-        line.pop_back();
+    Text line = TextFromUtf8(offsets_.BytesOf(row));
+    line.resize(static_cast<std::size_t>(GetLineLength(row)));
     return line;
 }
 
 int ScintillaSourceView::GetLineLength(int row) const {
     if (row < 0 || row >= NumLines())
         return 0;
-    return CodeUnitOffset(control_, control_.SendScintilla(Control::SCI_GETLINEENDPOSITION, Word(row))) -
-           GetLineStart(row);
+    // A terminator is as many bytes as it is units.
+    const long end = control_.SendScintilla(Control::SCI_GETLINEENDPOSITION, Word(row));
+    return GetTrueLineLength(row) - static_cast<int>(LineStartByte(row + 1) - end);
 }
 
 long ScintillaSourceView::ByteOf(int column, int row) const {
@@ -194,7 +180,7 @@ long ScintillaSourceView::ByteOf(int column, int row) const {
         return 0;
     if (row >= NumLines())
         return control_.SendScintilla(Control::SCI_GETLENGTH);
-    return BytePosition(control_, GetLineStart(row) + std::clamp(column, 0, GetLineLength(row)));
+    return offsets_.BytePosition(GetLineStart(row) + std::clamp(column, 0, GetLineLength(row)));
 }
 
 TextView ScintillaSourceView::LineEnd() const { return LineEndOfMode(control_.eolMode()); }
@@ -264,6 +250,7 @@ void ScintillaSourceView::OnModified(int position, int type, std::string_view te
     const int row = rowAt(position);
     if (linesAdded == 0 && text.find_first_of("\r\n") == std::string_view::npos) {
         tokens_.RowsChanged(row, 0, 0);
+        offsets_.RowsChanged(row, 0, 1);
     } else {
         // A CR and an LF that meet become one line end, and one that is parted becomes two: the row in front is
         // concerned too.
@@ -272,6 +259,7 @@ void ScintillaSourceView::OnModified(int position, int type, std::string_view te
         const int last = rowAt(position + (isInsertion ? static_cast<long>(text.size()) : 0));
         const int added = std::min(last + 1, NumLines() - 1) - first;
         tokens_.RowsChanged(first, added - linesAdded, added);
+        offsets_.RowsChanged(first, added - linesAdded, added + 1);
     }
     isModified_ = true;
     // What the control does by itself, outside of any call, is told from the event loop.
@@ -288,13 +276,13 @@ int ScintillaSourceView::CaretRow() const {
 }
 
 int ScintillaSourceView::CaretColumn() const {
-    return CodeUnitOffset(control_, control_.SendScintilla(Control::SCI_GETCURRENTPOS)) - GetLineStart(CaretRow());
+    return offsets_.OffsetOf(control_.SendScintilla(Control::SCI_GETCURRENTPOS)) - GetLineStart(CaretRow());
 }
 
 bool ScintillaSourceView::HasSelection() const { return control_.SendScintilla(Control::SCI_GETSELECTIONEMPTY) == 0; }
 
 SelectionRange ScintillaSourceView::GetSelectionRange() const {
-    const int anchor = CodeUnitOffset(control_, control_.SendScintilla(Control::SCI_GETANCHOR));
+    const int anchor = offsets_.OffsetOf(control_.SendScintilla(Control::SCI_GETANCHOR));
     const int anchorRow = GetRowAt(anchor);
     return {anchor - GetLineStart(anchorRow), anchorRow, CaretColumn(), CaretRow()};
 }
@@ -438,9 +426,9 @@ void ScintillaSourceView::ThawRedraw() {
 // What is told.
 
 void ScintillaSourceView::Tell() {
-    if (callDepth_ > 0 || events_ == nullptr)
+    if (callDepth_ > 0)
         return;
-    if (std::exchange(isModified_, false))
+    if (std::exchange(isModified_, false) && events_ != nullptr)
         events_->TextChanged();
     TellSelection();
 }
@@ -455,11 +443,14 @@ void ScintillaSourceView::TellChangeOfOtherKind() {
 void ScintillaSourceView::TellSelection() {
     const long anchor = control_.SendScintilla(Control::SCI_GETANCHOR);
     const long caret = control_.SendScintilla(Control::SCI_GETCURRENTPOS);
-    if (events_ == nullptr || (anchor == toldAnchor_ && caret == toldCaret_))
-        return;
+    // A change in front of the caret may move it to another row at the same place of the text, or the other way round.
+    const SelectionRange range = GetSelectionRange();
+    const bool isNew = anchor != toldAnchor_ || caret != toldCaret_ || range != toldRange_;
     toldAnchor_ = anchor;
     toldCaret_ = caret;
-    events_->SelectionChanged(CaretColumn(), CaretRow());
+    toldRange_ = range;
+    if (isNew && events_ != nullptr)
+        events_->SelectionChanged(range.endColumn, range.endRow);
 }
 
 void ScintillaSourceView::KeyPressing(const QKeyEvent& event) {

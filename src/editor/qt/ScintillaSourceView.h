@@ -3,6 +3,7 @@
 #include "editor/LineTokens.h"
 #include "editor/SourceView.h"
 #include "editor/qt/ScintillaControl.h"
+#include "editor/qt/ScintillaOffsets.h"
 #include "editor/qt/ScintillaStyles.h"
 
 #include <QWidget>
@@ -121,6 +122,7 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
 
     ScintillaControl control_;
     ScintillaStyles styles_;
+    ScintillaOffsets offsets_;
     FindBar* findBar_;
     SourceViewEvents* events_ = nullptr;
     LineTokens tokens_;
@@ -130,6 +132,7 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
     bool isModified_ = false;
     long toldAnchor_ = 0;
     long toldCaret_ = 0;
+    SelectionRange toldRange_;
 };
 
 }  // namespace tintora
