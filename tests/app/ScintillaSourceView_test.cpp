@@ -5,12 +5,14 @@
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
 
+#include <Qsci/qsciprinter.h>
 #include <gtest/gtest.h>
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
@@ -184,6 +186,20 @@ TEST_F(ScintillaViewTest, ARowThatIsTooLongIsDrawnWithoutColours) {
     EXPECT_THROW(static_cast<void>(view.GetTokenInfo(0, 0)), OverflowFailure);
     view.Control().grab();
     EXPECT_EQ(view.GetTokenInfo(0, 1).type, token_type::Selector);
+}
+
+TEST_F(ScintillaViewTest, TheTextIsPrintedInPages) {
+    Load(Text(200, u'\n') + u"a { color: red; }");
+    const QTemporaryDir folder;
+    QsciPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath("sheet.pdf"));
+    view.PrintTo(printer);
+    QFile file(folder.filePath("sheet.pdf"));
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    EXPECT_TRUE(pdf.startsWith("%PDF"));
+    EXPECT_GE(pdf.count("/Type /Page\n"), 2);
 }
 
 TEST_F(ScintillaViewTest, FilesDroppedOnTheTextAreLeftToTheWindow) {

@@ -8,6 +8,8 @@
 
 #include <Qsci/qsciscintilla.h>
 #include <sys/stat.h>
+#include <QAction>
+#include <QLabel>
 #include <QTabWidget>
 #include <QTest>
 
@@ -252,6 +254,56 @@ TEST_F(frmMainTest, ClosingAPaneAsksOnlyForUnsavedChanges) {
     EXPECT_TRUE(window->OpenDocuments().empty());
     EXPECT_TRUE(Selectors().isEmpty());
     close->trigger();
+}
+
+TEST_F(frmMainTest, EachEditCommandDoesItsWork) {
+    const auto trigger = [&](const char* key) {
+        auto* const action = window->findChild<QAction*>(key);
+        ASSERT_NE(action, nullptr) << key;
+        ASSERT_TRUE(action->isEnabled()) << key;
+        action->trigger();
+    };
+    window->OpenOneStyleSheet(MakeFile("a.css", "h1{color:red}\np {}\n"));
+    window->show();
+    ktStyleSheetWindow& document = window->ActiveDocument()->Window();
+    document.SetSelection(14, 14);
+    EXPECT_FALSE(window->findChild<QAction*>("miECut")->isEnabled());
+    EXPECT_FALSE(window->findChild<QAction*>("miEUndo")->isEnabled());
+    trigger("miSDuplicate");
+    EXPECT_EQ(document.GetText(), u"h1{color:red}\np {}\n\np {}\n");
+    trigger("miEUndo");
+    trigger("miERedo");
+    trigger("miEUndo");
+    EXPECT_EQ(document.GetText(), u"h1{color:red}\np {}\n");
+    trigger("miEFormatStyleSheet");
+    EXPECT_EQ(document.GetText(), u"h1 {color:red}\n\np {}");
+    trigger("miEUndo");
+    document.SetSelection(0, 2);
+    trigger("miECommentOut");
+    EXPECT_EQ(document.GetText(), u"/*h1*/{color:red}\np {}\n");
+    trigger("miEUndo");
+    document.SetSelection(0, 2);
+    trigger("miECopy");
+    trigger("miEPaste");
+    document.SetSelection(0, 2);
+    trigger("miECut");
+    EXPECT_EQ(document.GetText(), u"{color:red}\np {}\n");
+    trigger("miEPaste");
+    trigger("miEIndent");
+    EXPECT_EQ(document.GetText(), u"\th1{color:red}\np {}\n");
+    trigger("miEOutdent");
+    trigger("miESelectAll");
+    trigger("miEClear");
+    EXPECT_EQ(document.GetText(), u"");
+    EXPECT_FALSE(window->findChild<QAction*>("miSRemove")->isEnabled());
+    EXPECT_EQ(window->findChild<QLabel*>("CaretPosition")->text(), QStringLiteral("Line 1 Col 0"));
+}
+
+TEST_F(frmMainTest, TheListShowsTheStatementAtTheCaret) {
+    window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}\np {}\n"));
+    window->ActiveDocument()->Window().SetSelection(7, 7);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return Statements().currentItem() != nullptr && Statements().currentItem()->text(0) == "p"; }, 3000));
 }
 
 TEST_F(frmMainTest, TheMainWindowCanBeFound) {

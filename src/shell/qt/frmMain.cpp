@@ -11,6 +11,7 @@
 #include "text/qt/QtText.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
@@ -57,6 +58,11 @@ frmMain::frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages)
     SetUpPanes();
     SetUpStatusBar();
     SetUpActions();
+    // Whether there is something to paste may change without anything happening here.
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        if (StyleSheetPane* const pane = ActiveDocument())
+            pane->CSSEditor().UpdateMenu();
+    });
     LoadFormStrings(*this);
 }
 

@@ -19,6 +19,7 @@ class QToolBar;
 namespace tintora {
 
 class CSSEditorSrcView;
+class ktStyleSheetWindow;
 class StatementList;
 struct ActionLook;
 class StyleSheetPane;
@@ -75,9 +76,11 @@ class frmMain : public QMainWindow, private EditorFrame {
     void SetUpStatusBar();
     void SetUpActions();
     QAction* AddAction(QMenu& menu, const ActionLook& look, std::function<void()> onTriggered);
+    QAction* AddDocumentAction(QMenu& menu, const ActionLook& look, void (ktStyleSheetWindow::*command)());
     QAction* AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)());
     void SetUpFileMenu(QToolBar& standard);
     void SetUpEditMenu(QToolBar& standard);
+    void SetUpStatementMenu();
     void SetUpWindowMenu();
     void SetLocation();
     void SaveLocationOnClose();

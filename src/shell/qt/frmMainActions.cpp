@@ -25,6 +25,13 @@ QAction* frmMain::AddAction(QMenu& menu, const ActionLook& look, std::function<v
     return action;
 }
 
+QAction* frmMain::AddDocumentAction(QMenu& menu, const ActionLook& look, void (ktStyleSheetWindow::*command)()) {
+    return AddAction(menu, look, [this, command] {
+        if (StyleSheetPane* const pane = ActiveDocument())
+            (pane->Window().*command)();
+    });
+}
+
 QAction* frmMain::AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)()) {
     return AddAction(menu, look, [this, command] {
         if (StyleSheetPane* const pane = ActiveDocument())
@@ -39,6 +46,7 @@ void frmMain::SetUpActions() {
     standard.setMovable(false);
     SetUpFileMenu(standard);
     SetUpEditMenu(standard);
+    SetUpStatementMenu();
     SetUpWindowMenu();
 }
 
@@ -102,6 +110,22 @@ void frmMain::SetUpEditMenu(QToolBar& standard) {
     add({"miEOutdent", "&Outdent", "format-indent-less", QKeySequence(Qt::CTRL | Qt::Key_BracketLeft),
          "Outdents the selected lines"},
         &CSSEditorSrcView::Outdent);
+    AddDocumentAction(edit,
+                      {"miEFormatStyleSheet", "Format &Style Sheet", "", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
+                       "Lays out the white space of the whole style sheet anew"},
+                      &ktStyleSheetWindow::FormatStyleSheetText);
+}
+
+void frmMain::SetUpStatementMenu() {
+    QMenu& statement = *menuBar()->addMenu(QStringLiteral("&Statement"));
+    AddDocumentAction(statement,
+                      {"miSDuplicate", "&Duplicate", "edit-duplicate", QKeySequence(Qt::CTRL | Qt::Key_D),
+                       "Copies the statement at the caret behind itself"},
+                      &ktStyleSheetWindow::DuplicateStatement);
+    AddDocumentAction(statement,
+                      {"miSRemove", "&Remove", "edit-delete", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D),
+                       "Removes the statement at the caret"},
+                      &ktStyleSheetWindow::DeleteStatement);
 }
 
 void frmMain::SetUpWindowMenu() {
