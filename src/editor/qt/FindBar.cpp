@@ -19,7 +19,8 @@ namespace {
 using Control = QsciScintilla;
 
 constexpr int Gap = 6;
-constexpr int FieldWidth = 260;
+constexpr int LeastFieldWidth = 90;
+constexpr int MostFieldWidth = 260;
 
 unsigned long Bytes(long position) { return static_cast<unsigned long>(position); }
 
@@ -75,13 +76,14 @@ void FindBar::SetUpFields() {
     findLabel->setBuddy(find_);
     find_->setAccessibleName(QStringLiteral("Find"));
     find_->setClearButtonEnabled(true);
-    find_->setFixedWidth(FieldWidth);
+    find_->setMinimumWidth(LeastFieldWidth);
+    find_->setMaximumWidth(MostFieldWidth);
     QToolButton* const previous =
         MakeButton(QStringLiteral("go-up"), QStringLiteral("Previous match (Shift+Enter)"), this);
     QToolButton* const next = MakeButton(QStringLiteral("go-down"), QStringLiteral("Next match (Enter)"), this);
     QToolButton* const close = MakeButton(QStringLiteral("window-close"), QStringLiteral("Close (Esc)"), this);
     findRow->addWidget(findLabel);
-    findRow->addWidget(find_);
+    findRow->addWidget(find_, 1);
     for (QWidget* const widget :
          std::initializer_list<QWidget*>{previous, next, matchCase_, wholeWord_, regularExpression_, wrap_, count_})
         findRow->addWidget(widget);
@@ -94,11 +96,12 @@ void FindBar::SetUpFields() {
     auto* const replaceLabel = new QLabel(QStringLiteral("&Replace"), replaceRow_);
     replaceLabel->setBuddy(replace_);
     replace_->setAccessibleName(QStringLiteral("Replace with"));
-    replace_->setFixedWidth(FieldWidth);
+    replace_->setMinimumWidth(LeastFieldWidth);
+    replace_->setMaximumWidth(MostFieldWidth);
     auto* const replaceOne = new QPushButton(QStringLiteral("Replace"), replaceRow_);
     auto* const replaceAll = new QPushButton(QStringLiteral("Replace &All"), replaceRow_);
     replaceFields->addWidget(replaceLabel);
-    replaceFields->addWidget(replace_);
+    replaceFields->addWidget(replace_, 1);
     replaceFields->addWidget(replaceOne);
     replaceFields->addWidget(replaceAll);
     replaceFields->addStretch();

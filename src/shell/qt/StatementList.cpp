@@ -23,6 +23,8 @@ StatementList::StatementList(QWidget* parent) : QTreeWidget(parent) {
     setUniformRowHeights(true);
     setTextElideMode(Qt::ElideRight);
     header()->setStretchLastSection(true);
+    header()->setMinimumSectionSize(0);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
     connect(this, &QTreeWidget::itemClicked, this, &StatementList::SelectInText);
     connect(this, &QTreeWidget::itemActivated, this, &StatementList::SelectInText);
