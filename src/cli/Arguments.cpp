@@ -2,6 +2,9 @@
 
 #include "cli/Console.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tintora::cli {
 
 namespace {
@@ -14,6 +17,28 @@ CLI::Option* OptionOf(CLI::App& app, const std::string& word) {
 /// Whether the option's value is the next word.
 bool TakesNextWord(const CLI::Option& option, const std::string& word) {
     return option.get_items_expected_max() > 0 && word.find('=') == std::string::npos;
+}
+
+/// The parser takes "[a,b]" for the two words a and b. With this behind it, which no argument of a process can hold, it
+/// takes it for the word that it is.
+constexpr char WordMark = '\0';
+
+std::string Marked(std::string word) {
+    if (word.ends_with(']'))
+        word.push_back(WordMark);
+    return word;
+}
+
+std::string Unmarked(std::string word) {
+    if (word.ends_with(WordMark))
+        word.pop_back();
+    return word;
+}
+
+void UnmarkPositionals(CLI::App& app) {
+    for (CLI::Option* const option : app.get_options())
+        if (option->get_positional())
+            option->transform(Unmarked);
 }
 
 CLI::App* SubcommandOf(CLI::App& app, const std::string& word) {
@@ -48,8 +73,9 @@ std::vector<std::string> ArrangeArguments(CLI::App& app, const std::vector<std::
         }
     }
     if (!positionals.empty()) {
+        UnmarkPositionals(*current);
         arranged.emplace_back("--");
-        arranged.insert(arranged.end(), positionals.begin(), positionals.end());
+        std::transform(positionals.begin(), positionals.end(), std::back_inserter(arranged), Marked);
     }
     return arranged;
 }

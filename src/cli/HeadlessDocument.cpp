@@ -35,6 +35,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
                                              public PreviewPanes,
                                              public SupportWarnings,
                                              public StatementDialogs,
+                                             public FileDialogs,
                                              public EditorDialogs,
                                              public Clipboard {
   public:
@@ -47,6 +48,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     void SetUpCorePropertiesToolbar(TextView) override {}
     void StatementsCached() override { calls.emplace_back(u"CacheStatements"); }
     void DirtyChanged(bool) override {}
+    void SetCaption(TextView) override {}
     void BringDocumentToFront() override {}
 
     // The palettes
@@ -67,6 +69,10 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     // The dialogs
     [[nodiscard]] Text AskStatementKind() override { return answer; }
     [[nodiscard]] Text EditSelector(TextView, TextView) override { return answer; }
+    [[nodiscard]] std::optional<Text> AskSavePath(TextView, TextView) override { return std::nullopt; }
+    [[nodiscard]] SaveAnswer AskSaveChanges(TextView, TextView) override { return SaveAnswer::Cancel; }
+    [[nodiscard]] ChangedFileAnswer AskAboutChangedFile(TextView) override { return ChangedFileAnswer::Cancel; }
+    void ShowWriteFailure(TextView) override {}
     [[nodiscard]] std::optional<int> AskLineNumber() override { return std::nullopt; }
     [[nodiscard]] Text ChooseFromMenu(const std::vector<ContextMenuEntry>&) override { return {}; }
     void ShowMessage(TextView, TextView) override {}
@@ -85,7 +91,7 @@ HeadlessDocument::HeadlessDocument(SettingsStore& settings)
     : surroundings_(std::make_unique<Surroundings>()), view_(std::make_unique<MemorySourceView>(*surroundings_)) {
     Surroundings& all = *surroundings_;
     window_ = std::make_unique<ktStyleSheetWindow>(
-        ktStyleSheetWindow::Surroundings{*view_, all, all, all, all, all, all, all, all, settings, clock_});
+        ktStyleSheetWindow::Surroundings{*view_, all, all, all, all, all, all, all, all, all, settings, clock_});
 }
 
 HeadlessDocument::~HeadlessDocument() = default;

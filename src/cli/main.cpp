@@ -4,6 +4,7 @@
 #include "cli/Console.h"
 #include "cli/EditingCommands.h"
 #include "cli/JudgingCommands.h"
+#include "cli/PageCommands.h"
 #include "cli/ReadingCommands.h"
 
 #include <CLI/Config.hpp>
@@ -42,6 +43,7 @@ int Run(const std::vector<std::string>& arguments, Console& console) {
     tintora::cli::AddReadingCommands(app, console);
     tintora::cli::AddJudgingCommands(app, console);
     tintora::cli::AddEditingCommands(app, console);
+    tintora::cli::AddPageCommands(app, console);
     const std::string version = "tintora-cli " TINTORA_VERSION;
     app.set_version_flag("--version", version);
     for (CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; }))

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "editor/EditorSurroundings.h"
+#include "linking/TextWriting.h"
 #include "text/Text.h"
+
+#include <optional>
 
 /// What a document window calls outside of itself: the main window, the palettes, the preview and its questions.
 namespace tintora {
@@ -21,8 +24,28 @@ class DocumentFrame : public EditorFrame {
     /// The text has come to differ from the file, or has ceased to.
     virtual void DirtyChanged(bool isDirty) = 0;
 
+    /// The caption of the document's pane.
+    virtual void SetCaption(TextView caption) = 0;
+
     /// Brings the document's pane to the front, so that the focus is in the text.
     virtual void BringDocumentToFront() = 0;
+};
+
+/// What a document asks about its file.
+class FileDialogs : public WriteMessages {
+  public:
+    enum class SaveAnswer { Yes, No, Cancel };
+    enum class ChangedFileAnswer { Overwrite, Reload, Cancel };
+
+    /// The path under which to save, by a dialog with that title that proposes a name and asks before it overwrites;
+    /// nothing if it is cancelled.
+    [[nodiscard]] virtual std::optional<Text> AskSavePath(TextView title, TextView proposedName) = 0;
+
+    /// Whether to save a document before it is closed.
+    [[nodiscard]] virtual SaveAnswer AskSaveChanges(TextView title, TextView question) = 0;
+
+    /// What to do about a file that another program has changed since it was read or written here.
+    [[nodiscard]] virtual ChangedFileAnswer AskAboutChangedFile(TextView path) = 0;
 };
 
 /// The palette of statements. It must exist.

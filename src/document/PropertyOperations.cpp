@@ -1,6 +1,7 @@
 // One declaration of the current statement: found, changed, added and removed by replacing no more than its characters.
 
 #include "document/ktStyleSheetWindow.h"
+#include "language/Declarations.h"
 #include "model/DeclarationText.h"
 #include "text/LowerCase.h"
 #include "text/Narrowing.h"
@@ -78,6 +79,7 @@ Texts ktStyleSheetWindow::GetCurrentStatementProperties() const {
 }
 
 void ktStyleSheetWindow::ChangeCurrentProperty(TextView name, TextView value) {
+    CatchUpWithText();
     {
         const UndoStep step(textEditor_.Buffer());
         const FoundProperty found = FindProperty(name);
@@ -95,8 +97,11 @@ void ktStyleSheetWindow::ChangeCurrentProperty(TextView name, TextView value) {
 }
 
 void ktStyleSheetWindow::ChangeExistingProperty(const FoundProperty& found, TextView value) {
-    const Text old = styleSheet_.GetPropertyValue(styleSheet_.getPropertyFromSelection(found.start));
-    const std::size_t colon = GetText().find(u':', static_cast<std::size_t>(found.start));
+    const Text text = GetText();
+    const TextView declaration =
+        TextView(text).substr(static_cast<std::size_t>(found.start), static_cast<std::size_t>(found.end - found.start));
+    const Text old = GetDeclarationValue(declaration);
+    const std::size_t colon = text.find(u':', static_cast<std::size_t>(found.start));
     if (colon == Text::npos)
         return;
     // One blank is taken to follow the colon: where it is missing, the character behind the value goes.
@@ -121,6 +126,7 @@ void ktStyleSheetWindow::AddProperty(const FoundProperty& place, TextView name, 
 }
 
 void ktStyleSheetWindow::RemovePropertyFromCurrentStatement(TextView name) {
+    CatchUpWithText();
     const UndoStep step(textEditor_.Buffer());
     const FoundProperty found = FindProperty(name);
     if (!found.isFound)
@@ -142,6 +148,7 @@ void ktStyleSheetWindow::RemovePropertyFromCurrentStatement(TextView name) {
 }
 
 void ktStyleSheetWindow::SelectPropertyInCurrentStatement(TextView name) {
+    CatchUpWithText();
     const FoundProperty found = FindProperty(name);
     if (found.isFound) {
         SetSelection(found.start, found.end);

@@ -103,8 +103,13 @@ int ktStyleSheetWindow::GetCurrentSelectorType() const { return styleSheet_.GetS
 
 Texts ktStyleSheetWindow::GetCurrentSelectors() const { return styleSheet_.GetAllSelectorsAsText(); }
 
+Text ktStyleSheetWindow::SelectorAtCaret() const {
+    return IsFirstStatementCurrent() ? GetCurrentSelector() : styleSheet_.ExtractSelector(GetCurrentStatement());
+}
+
 int ktStyleSheetWindow::CurrentSelectorLength() const {
-    return SelectorLengthInText(GetCurrentStatement(), GetCurrentSelectorType(), GetCurrentSelector());
+    const Text selector = SelectorAtCaret();
+    return SelectorLengthInText(GetCurrentStatement(), styleSheet_.GetSelectorType(selector), selector);
 }
 
 int ktStyleSheetWindow::EndOfCurrentWhitespace() const {
@@ -137,16 +142,19 @@ void ktStyleSheetWindow::StatementSelected(int number) {
 }
 
 void ktStyleSheetWindow::SelectCurrentSelector() {
+    CatchUpWithText();
     const int start = GetCurrentStatementStartChar();
     SetSelection(start, start + CurrentSelectorLength());
 }
 
 void ktStyleSheetWindow::SelectCurrentStatement() {
+    CatchUpWithText();
     const int start = GetCurrentStatementStartChar();
     SetSelection(start, start + static_cast<int>(GetCurrentStatement().size()));
 }
 
 void ktStyleSheetWindow::InsertCursorAfterCurrentStatement() {
+    CatchUpWithText();
     const int behind = GetCurrentStatementStartChar() + static_cast<int>(GetCurrentStatement().size()) + 1;
     const int place = std::min(behind, EndOfCurrentWhitespace());
     SetSelection(place, place);
@@ -158,6 +166,7 @@ void ktStyleSheetWindow::InsertCursorBeforeCurrentStatement() {
 }
 
 void ktStyleSheetWindow::DeleteStatement() {
+    CatchUpWithText();
     {
         const UndoStep step(textEditor_.Buffer());
         const int end = GetCurrentStatementStartChar() + static_cast<int>(GetCurrentStatement().size());
@@ -167,6 +176,7 @@ void ktStyleSheetWindow::DeleteStatement() {
 }
 
 void ktStyleSheetWindow::DuplicateStatement() {
+    CatchUpWithText();
     {
         const UndoStep step(textEditor_.Buffer());
         const Text statement = GetCurrentStatement();
@@ -209,7 +219,7 @@ void ktStyleSheetWindow::InsertStatement(TextView kind, TextView value) {
     const UndoStep step(textEditor_.Buffer());
     const bool isComment = kind == u"Comment";
     const Text block = isComment ? Text(value) : Text(value) + u" {}";
-    if (GetCurrentSelectorType() == selector_type::AtMedia)
+    if (styleSheet_.GetSelectorType(SelectorAtCaret()) == selector_type::AtMedia)
         InsertAtTop(block);
     else
         ReplaceWhitespaceBehindStatement(block);
@@ -223,6 +233,7 @@ void ktStyleSheetWindow::NewStatement(TextView wantedKind) {
     const Text kind = wantedKind.empty() ? statementDialogs_.AskStatementKind() : Text(wantedKind);
     if (kind.empty())
         return;
+    CatchUpWithText();
     const auto isKind = [&](const KindAndNumber& row) { return row.kind == kind; };
     const auto* const ruleSet = std::find_if(RuleSets.begin(), RuleSets.end(), isKind);
     if (ruleSet != RuleSets.end()) {
@@ -242,15 +253,22 @@ void ktStyleSheetWindow::NewStatement(TextView wantedKind) {
         frame_.BringDocumentToFront();
 }
 
+Text ktStyleSheetWindow::TextForForm(int type, TextView selector) const {
+    if (type == selector_type::AtImport)
+        return GetCurrentStatement();
+    // A comment as it stands: its selector is in lower case.
+    return TrimWhitespace(type == selector_type::Comment ? TextView(GetCurrentStatement()) : selector);
+}
+
 void ktStyleSheetWindow::EditStatement() {
-    const int type = GetCurrentSelectorType();
+    CatchUpWithText();
+    const Text selector = SelectorAtCaret();
+    const int type = styleSheet_.GetSelectorType(selector);
     const auto* const form =
         std::find_if(Forms.begin(), Forms.end(), [=](const KindAndNumber& row) { return row.number == type; });
     if (form == Forms.end())
         return;
-    const bool isWhole = type == selector_type::AtImport || type == selector_type::Comment;
-    const Text present = isWhole ? GetCurrentStatement() : GetCurrentSelector();
-    const Text value = statementDialogs_.EditSelector(form->kind, TrimWhitespace(present));
+    const Text value = statementDialogs_.EditSelector(form->kind, TextForForm(type, selector));
     if (!value.empty()) {
         const int start = CurrentTrueStart();
         if (type == selector_type::AtImport)

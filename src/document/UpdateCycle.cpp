@@ -34,9 +34,13 @@ void ktStyleSheetWindow::TextChanged() {
 void ktStyleSheetWindow::SelectionChanged() { selectionChangedDelay_->Restart(); }
 
 void ktStyleSheetWindow::CacheStatements() {
-    cacheStatementsDelay_->Stop();
     styleSheet_.CacheStatements();
     frame_.StatementsCached();
+}
+
+void ktStyleSheetWindow::CatchUpWithText() {
+    if (cacheStatementsDelay_->IsRunning())
+        CacheStatements();
 }
 
 void ktStyleSheetWindow::UpdateOnIdle() {
@@ -138,7 +142,6 @@ void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
 }
 
 void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
-    selectionChangedDelay_->Stop();
     const Text name = styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(offset));
     const int number = GetCurrentStatementNumber(offset);
     statements_.SelectStatement(number);
@@ -197,9 +200,11 @@ void ktStyleSheetWindow::KeyUp(int code) {
     } else if (code == key_code::SemicolonOrColon) {
         const int offset = GetSelectionStart() - 1;
         const Text value = GetCurrentPropertyValueFromChar(offset);
-        // Where the value is valid the press has set the flag already.
+        // Where the value is valid the press has set the flag already, and stopped the timer.
         if (!value.empty() && !ValidatePropertyValue(GetCurrentPropertyNameFromChar(offset), value))
             SetNeedsUpdating(true);
+        else if (needsUpdating_)
+            ResetIdleTimer();
     } else {
         SetNeedsUpdating(isValid(GetCurrentPropertyNameFromText(), GetCurrentPropertyValueFromText()));
     }

@@ -1,8 +1,6 @@
 #include "document/ktStyleSheetWindow.h"
 
 #include "document/Formatter.h"
-#include "linking/HtmlStyle.h"
-#include "linking/TextFiles.h"
 #include "text/LineEnds.h"
 
 #include <chrono>
@@ -27,6 +25,7 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
       preview_(surroundings.preview),
       warnings_(surroundings.warnings),
       statementDialogs_(surroundings.statementDialogs),
+      fileDialogs_(surroundings.fileDialogs),
       settings_(surroundings.settings),
       textEditor_(surroundings.textEditor),
       editor_({surroundings.textEditor, *this, surroundings.frame, surroundings.clipboard, surroundings.editorDialogs,
@@ -48,21 +47,9 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
 
 ktStyleSheetWindow::~ktStyleSheetWindow() { textEditor_.SetEvents(nullptr); }
 
-void ktStyleSheetWindow::OpenStyleSheet(TextView path) {
-    styleSheet_.OpenStyleSheet(path);
-    UpdateSelectorsPalette();
-    LivePreview();
-}
-
 void ktStyleSheetWindow::SetText(TextView text) {
     editor_.SetText(text);
     CacheStatements();
-}
-
-void ktStyleSheetWindow::LoadContent(TextView file) {
-    SetText(ExtractStyleSheetText(ReadTextFile(file)));
-    SetDirty(false);
-    UpdateEditors();
 }
 
 void ktStyleSheetWindow::SetDirty(bool isDirty) {
@@ -90,10 +77,12 @@ int ktStyleSheetWindow::LengthInText(TextView separator) const {
 }
 
 void ktStyleSheetWindow::FormatStyleSheetText() {
+    CatchUpWithText();
     editor_.ReplaceAllText(FormattedStyleSheet(styleSheet_, ReadSeparators(settings_), MediaBlockFormat::FormatNested));
 }
 
 void ktStyleSheetWindow::FormatStyleSheetTextNotAt() {
+    CatchUpWithText();
     editor_.ReplaceAllText(
         FormattedStyleSheet(styleSheet_, ReadSeparators(settings_), MediaBlockFormat::KeepAsTheyStand));
 }

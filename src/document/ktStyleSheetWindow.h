@@ -11,6 +11,7 @@
 #include "text/Text.h"
 
 #include <memory>
+#include <optional>
 
 namespace tintora {
 
@@ -38,6 +39,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
         PreviewPanes& preview;
         SupportWarnings& warnings;
         StatementDialogs& statementDialogs;
+        FileDialogs& fileDialogs;
         EditorDialogs& editorDialogs;
         Clipboard& clipboard;
         SettingsStore& settings;
@@ -57,8 +59,47 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     [[nodiscard]] Text GetText() const override { return editor_.GetText(); }
 
-    /// Opens a file: its path is stored, its text loaded, and the palettes and the preview follow.
+    // Files. A document is a style sheet, or a page whose embedded style sheet is edited: that is told from the content
+    // of the file, not from its name.
+
+    /// Opens a file: its path is stored, its text loaded, and the palettes and the preview follow. Throws as
+    /// `LoadStyleSheet` does.
     void OpenStyleSheet(TextView path);
+
+    /// Opens the style sheet to which a page links.
+    void OpenLinkedStyleSheet(TextView htmlPath);
+
+    /// Opens a copy of a file: without a path, and dirty from the start.
+    void NewStyleSheetFromTemplate(TextView path);
+
+    /// Loads a file's style sheet into the editor, with nothing to undo. Throws `FileFailure` for a file that can't be
+    /// read, `UnclosedElementFailure` for a page whose style element doesn't end, and `OverflowFailure` beyond the
+    /// length limit.
+    void LoadStyleSheet(TextView path);
+
+    /// Saves under the document's path, or asks for one. A page gets the text into its style element, and the document
+    /// stays dirty then: the page isn't the style sheet's own file.
+    void Save();
+
+    /// Saves under a path that it asks for, which is overwritten whatever it holds. The document counts as clean
+    /// afterwards, also if that failed.
+    void SaveAs();
+
+    /// Asks whether to save, and does what is answered. "No" makes the document clean.
+    void SaveBeforeClosing();
+
+    /// Whether the window may go: true for a clean document, and for a dirty one that is clean after the question.
+    [[nodiscard]] bool DoHide();
+
+    /// The path of the document; "" for one that was never saved.
+    [[nodiscard]] const Text& GetFile() const noexcept { return styleSheet_.File(); }
+
+    /// The caption: a file's name without its folder, or the name of a new document.
+    [[nodiscard]] const Text& Caption() const noexcept { return caption_; }
+    void SetCaption(TextView path);
+
+    /// Enables what depends on the document itself: saving while it is dirty, an `@import` while it has a file.
+    void UpdateMenus();
 
     /// Loads a text into the editor and reads its statements.
     void SetText(TextView text);
@@ -131,8 +172,16 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     [[nodiscard]] int GetCurrentStatementNumber(int offset) const;
     [[nodiscard]] int GetCurrentSelectorType() const;
 
-    /// The selectors of the style sheet, each once.
+    /// The selectors of the style sheet, in order.
     [[nodiscard]] Texts GetCurrentSelectors() const;
+
+    // What the style sheet uses.
+
+    [[nodiscard]] Texts GetCurrentColors() const { return styleSheet_.GetAllColors(); }
+    [[nodiscard]] Texts GetCurrentFonts() const { return styleSheet_.GetAllFonts(); }
+    [[nodiscard]] Texts GetCurrentURLs() const { return styleSheet_.GetAllURLs(); }
+    [[nodiscard]] Texts GetAllClasses() const { return styleSheet_.GetAllClasses(); }
+    [[nodiscard]] Texts GetAllIDs() const { return styleSheet_.GetAllIDs(); }
 
     /// The palette reports a choice, 1-based: selects the first place where that statement's text stands.
     void StatementSelected(int number);
@@ -158,6 +207,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     [[nodiscard]] int GetPropertyInCurrentStatementStart(TextView name) const;
     [[nodiscard]] int GetPropertyInCurrentStatementEnd(TextView name) const;
     [[nodiscard]] Texts GetCurrentStatementProperties() const;
+    [[nodiscard]] Texts GetStatementProperties(TextView body) const { return styleSheet_.GetStatementProperties(body); }
 
     // The declaration at the caret as of the last scan, and as the text has it now.
 
@@ -216,8 +266,17 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     /// The length that a separator has in the text, in its line ends.
     [[nodiscard]] int LengthInText(TextView separator) const;
+    /// Reads the statements again if the text has changed since, so that a command never reckons with old places.
+    void CatchUpWithText();
+
+    /// The selector of the statement at the caret, which `GetCurrentSelector` may lag behind.
+    [[nodiscard]] Text SelectorAtCaret() const;
     void FinishChange();
+    [[nodiscard]] bool MayOverwrite(TextView path, const Text& present);
+    void SaveInto(const Text& path);
+    void SaveIntoPage(const Text& path);
     void ReplaceWhitespaceBehindStatement(TextView block);
+    [[nodiscard]] Text TextForForm(int type, TextView selector) const;
     void InsertAtTop(TextView block);
     void InsertRuleSet(int number);
     void InsertStatement(TextView kind, TextView value);
@@ -230,6 +289,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     PreviewPanes& preview_;
     SupportWarnings& warnings_;
     StatementDialogs& statementDialogs_;
+    FileDialogs& fileDialogs_;
     SettingsStore& settings_;
     SourceView& textEditor_;
     ktStyleSheet styleSheet_;
@@ -239,6 +299,9 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     std::unique_ptr<DelayTimer> selectionChangedDelay_;
     std::unique_ptr<DelayTimer> idleTimer_;
     std::unique_ptr<DelayTimer> previewDelay_;
+    Text caption_;
+    /// The text of the file as it was read or written last; nothing before that.
+    std::optional<Text> knownFileText_;
     int lastSelectedStatement_ = 0;
     bool isDirty_ = false;
     bool needsUpdating_ = false;

@@ -19,17 +19,23 @@ bool ContainsHTMLTags(TextView text) {
 
 bool IsHTMLFile(TextView path) { return ContainsHTMLTags(ReadTextFile(path)); }
 
-Text GetStyleElement(TextView text) {
+std::optional<TextView> FindStyleElement(TextView text) {
     const std::size_t start = FindLowered(text, StyleOpening);
     if (start == TextView::npos)
-        return {};
+        return std::nullopt;
     const std::size_t closing = FindLowered(text, StyleClosing, start);
     const std::size_t end = closing == TextView::npos ? StyleClosing.size() - 1 : closing + StyleClosing.size();
-    if (closing != TextView::npos)
-        static_cast<void>(Narrow(static_cast<long long>(end)));
     if (end < start)
         throw UnclosedElementFailure("the style element doesn't end");
-    return Text(text.substr(start, end - start));
+    return text.substr(start, end - start);
+}
+
+Text GetStyleElement(TextView text) {
+    const std::optional<TextView> element = FindStyleElement(text);
+    if (!element)
+        return {};
+    static_cast<void>(Narrow(element->data() + element->size() - text.data()));
+    return Text(*element);
 }
 
 Text ExtractStyleSheetText(TextView text) {

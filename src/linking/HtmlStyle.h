@@ -2,6 +2,7 @@
 
 #include "text/Text.h"
 
+#include <optional>
 #include <stdexcept>
 
 /// Style sheets inside of HTML pages, found by plain searches in the page's text.
@@ -19,11 +20,15 @@ class UnclosedElementFailure : public std::invalid_argument {
 /// Whether the file's text holds both tags. Throws `FileFailure` as `ReadTextFile` does.
 [[nodiscard]] bool IsHTMLFile(TextView path);
 
-/// The text of the first `style` element with its tags, as it stands; "" if there is none.
+/// The first `style` element with its tags, as a part of `text`; nothing if there is none.
 ///
 /// Throws `UnclosedElementFailure` where no "/style>" follows (but an element that starts within the first seven
-/// characters of the text is what precedes the seventh), and `OverflowFailure` where the element ends beyond the limit
-/// of positions.
+/// characters of the text is what precedes the seventh).
+[[nodiscard]] std::optional<TextView> FindStyleElement(TextView text);
+
+/// The text of the first `style` element with its tags, as it stands; "" if there is none.
+///
+/// Throws as `FindStyleElement` does, and `OverflowFailure` where the element ends beyond the limit of positions.
 [[nodiscard]] Text GetStyleElement(TextView text);
 
 /// The style sheet in a page: the content of its first `style` element, "" if it has none. A text that is no page comes

@@ -16,7 +16,9 @@ namespace tintora::test {
 struct Told {
     QStringList messages;
     QStringList questions;
-    bool mayDiscard = true;
+    FileDialogs::SaveAnswer saveAnswer = FileDialogs::SaveAnswer::No;
+    FileDialogs::ChangedFileAnswer changedFileAnswer = FileDialogs::ChangedFileAnswer::Cancel;
+    std::optional<Text> savePath;
 };
 
 class RecordedMessages final : public UserMessages {
@@ -24,9 +26,18 @@ class RecordedMessages final : public UserMessages {
     explicit RecordedMessages(Told& told) : told_(told) {}
 
     void Tell(const QString& text, const QString&) override { told_.messages.append(text); }
-    bool MayDiscardChanges(const QString& caption) override {
-        told_.questions.append(caption);
-        return told_.mayDiscard;
+    void ShowWriteFailure(TextView message) override { told_.messages.append(ToQString(message)); }
+    std::optional<Text> AskSavePath(TextView title, TextView proposedName) override {
+        told_.questions.append(ToQString(title) + ": " + ToQString(proposedName));
+        return told_.savePath;
+    }
+    SaveAnswer AskSaveChanges(TextView, TextView question) override {
+        told_.questions.append(ToQString(question));
+        return told_.saveAnswer;
+    }
+    ChangedFileAnswer AskAboutChangedFile(TextView path) override {
+        told_.questions.append("changed: " + ToQString(path));
+        return told_.changedFileAnswer;
     }
 
   private:

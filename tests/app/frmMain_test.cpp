@@ -227,13 +227,13 @@ TEST_F(frmMainTest, KeepingADirtyStyleSheetKeepsTheWindowAndStoresNothing) {
     window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}"));
     window->show();
     window->ActiveDocument()->Window().InsertText(u"x", 0);
-    told.mayDiscard = false;
+    told.saveAnswer = FileDialogs::SaveAnswer::Cancel;
     const std::size_t stored = store.Size();
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(store.Size(), stored);
-    EXPECT_EQ(told.questions, QStringList({"a.css"}));
-    told.mayDiscard = true;
+    EXPECT_EQ(told.questions, QStringList({"Save changes to the style sheet \"a.css\" before closing?"}));
+    told.saveAnswer = FileDialogs::SaveAnswer::No;
     EXPECT_TRUE(window->close());
 }
 
@@ -246,10 +246,10 @@ TEST_F(frmMainTest, ClosingAPaneAsksOnlyForUnsavedChanges) {
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));
     EXPECT_EQ(Selectors(), QStringList({"h1"}));
     window->ActiveDocument()->Window().InsertText(u"x", 0);
-    told.mayDiscard = false;
+    told.saveAnswer = FileDialogs::SaveAnswer::Cancel;
     close->trigger();
     EXPECT_EQ(Captions(*window), QStringList({"a.css"}));
-    told.mayDiscard = true;
+    told.saveAnswer = FileDialogs::SaveAnswer::No;
     close->trigger();
     EXPECT_TRUE(window->OpenDocuments().empty());
     EXPECT_TRUE(Selectors().isEmpty());

@@ -68,6 +68,101 @@ constexpr auto QuoteCases = std::to_array<QuoteCase>({
     {u"\xD800", u"\"\xD800\"", u"\xD800"},
 });
 
+struct RelativeCase {
+    TextView from;
+    TextView to;
+    TextView url;
+};
+
+constexpr auto RelativeCases = std::to_array<RelativeCase>({
+    {u"C:\\a\\b\\x.html", u"C:\\a\\c\\y.css", u"../c/y.css"},
+    {u"C:\\a\\x.html", u"C:\\a\\b\\y.css", u"b/y.css"},
+    {u"C:\\a\\b\\x.html", u"C:\\a\\y.css", u"../y.css"},
+    {u"C:\\ab\\x.html", u"C:\\ab2\\y.css", u"../ab2/y.css"},
+    {u"C:\\a\\x.html", u"D:\\a\\y.css", u"D:\\a\\y.css"},
+    {u"C:\\a\\x.html", u"C:\\a\\y.css", u"y.css"},
+    {u"C:\\Site\\a.html", u"c:\\site\\b.css", u"c:\\site\\b.css"},
+    {u"C:\\Site\\a.html", u"C:\\site\\b.css", u"../site/b.css"},
+    {u"C:\\a\\b\\c\\x.html", u"C:\\y.css", u"../../../y.css"},
+    {u"C:\\x.html", u"C:\\a\\b\\y.css", u"a/b/y.css"},
+    {u"C:/a\\b/x.html", u"C:\\a/b\\y.css", u"y.css"},
+
+    {u"/a/b/x.html", u"/a/c/y.css", u"../c/y.css"},
+    {u"/a/x.html", u"/a/b/y.css", u"b/y.css"},
+    {u"/a/b/x.html", u"/a/y.css", u"../y.css"},
+    {u"/ab/x.html", u"/ab2/y.css", u"../ab2/y.css"},
+    {u"/a/x.html", u"/b/y.css", u"../b/y.css"},
+    {u"/x.html", u"/y.css", u"y.css"},
+    {u"/x.html", u"/a/y.css", u"a/y.css"},
+    {u"/a/x.html", u"/y.css", u"../y.css"},
+    {u"/a b/x.html", u"/c \"d\"#%/\x4E2D.css", u"../c \"d\"#%/\x4E2D.css"},
+    {u"/\xDCFF/x.html", u"/\xDCFE/y.css", u"../\xDCFE/y.css"},
+
+    // Paths that aren't absolute.
+    {u"", u"", u""},
+    {u"x.html", u"y.css", u"y.css"},
+    {u"x.html", u"a/y.css", u"y.css"},
+    {u"a/x.html", u"y.css", u"../y.css"},
+    {u"a/x.html", u"b/y.css", u"b/y.css"},
+    {u"ab/x.html", u"a/b/y.css", u"../b/y.css"},
+
+    // The beginning of the one folder stands further back in the other, which misleads.
+    {u"/a/x.html", u"/b/a/y.css", u"a/y.css"},
+    {u"/a/b/x.html", u"/c/a/b/y.css", u"b/y.css"},
+    {u"/a/x.html", u"/bb/a/y.css", u"a/y.css"},
+    {u"a/x.html", u"b/a/y.css", u"a/y.css"},
+
+    // The one folder's name begins with the other's, and the longer one is left.
+    {u"C:\\ab2\\x.html", u"C:\\ab\\y.css", u"../y.css"},
+    {u"/ab2/x.html", u"/ab/y.css", u"../y.css"},
+    {u"/ab2/c/x.html", u"/ab/y.css", u"../../y.css"},
+});
+
+struct ResolveCase {
+    TextView base;
+    TextView relative;
+    TextView path;
+};
+
+constexpr auto ResolveCases = std::to_array<ResolveCase>({
+    {u"C:\\site\\sub\\x.html", u"../css/main.css", u"C:\\site\\css\\main.css"},
+    {u"C:\\site\\sub\\x.html", u"../main.css", u"C:\\site\\sub\\..\\main.css"},
+    {u"C:\\site\\x.html", u"../main.css", u"C:\\site\\..\\main.css"},
+    {u"C:\\site\\x.html", u"main.css", u"C:\\site\\\\main.css"},
+    {u"C:\\site\\x.html", u"", u"C:\\site\\\\"},
+    {u"C:\\site\\x.html", u"a/b/main.css", u"C:\\site\\a/b\\main.css"},
+    {u"C:\\site\\x.html", u"a\\b\\main.css", u"C:\\site\\a/b\\main.css"},
+    {u"C:\\site\\a\\b\\x.html", u"../../css/deep/main.css", u"C:\\site\\css\\deep\\main.css"},
+    {u"C:\\site\\a\\b\\x.html", u"../../main.css", u"C:\\site\\a\\..\\main.css"},
+    {u"C:\\site\\a\\x.html", u"..\\css\\main.css", u"C:\\site\\css\\main.css"},
+    {u"C:/site/x.html", u"main.css", u"C:/site//main.css"},
+
+    {u"/site/sub/x.html", u"../css/main.css", u"/site/css/main.css"},
+    {u"/site/sub/x.html", u"../main.css", u"/site/sub/../main.css"},
+    {u"/site/x.html", u"main.css", u"/site//main.css"},
+    {u"/site/x.html", u"", u"/site//"},
+    {u"/site/x.html", u"css/main.css", u"/site/css/main.css"},
+    {u"/site/x.html", u"a/b/main.css", u"/site/a/b/main.css"},
+    {u"/site/x.html", u"/css/main.css", u"/site//css/main.css"},
+    {u"/x.html", u"main.css", u"//main.css"},
+    {u"x.html", u"main.css", u"//main.css"},
+    {u"/site/x.html", u"http://a/b.css", u"/site/http://a/b.css"},
+    {u"/site/x.html", u"a b/\"#%\x4E2D.css", u"/site/a b/\"#%\x4E2D.css"},
+
+    // Either one's backslash decides.
+    {u"/site/sub/x.html", u"..\\css\\main.css", u"\\site\\css\\main.css"},
+    {u"/site/x.html", u"css\\main.css", u"\\site\\css\\main.css"},
+
+    // Steps up are counted wherever they stand, and taken away only at the start.
+    {u"/a/b/c/x.html", u"css/../main/y.css", u"/a/b/css/../main/y.css"},
+    {u"/a/b/c/x.html", u"../d/../e/y.css", u"/a/d/../e/y.css"},
+    {u"/a/b/c/x.html", u"a../d/y.css", u"/a/b/a../d/y.css"},
+    {u"/a/b/c/x.html", u"../../../../d/y.css", u"/d/y.css"},
+    {u"a/x.html", u"../../d/y.css", u"a/d/y.css"},
+    {u"/a/b/x.html", u"..//y.css", u"/a//y.css"},
+    {u"/a/b/x.html", u"./../d/y.css", u"/a/./../d/y.css"},
+});
+
 TEST(Paths, BothSeparatorsPartFolderAndName) {
     for (const PathCase& row : PathCases) {
         SCOPED_TRACE(Utf8FromText(row.path));
@@ -93,6 +188,31 @@ TEST(Paths, FolderSeparatorAndNameAreThePath) {
         ASSERT_TRUE(path.ends_with(name));
         ASSERT_EQ(name.find_first_of(u"/\\"), Text::npos);
     }
+}
+
+TEST(Paths, AURLLeadsFromOneFileToTheOther) {
+    for (const RelativeCase& row : RelativeCases)
+        EXPECT_EQ(GetRelativePath(row.from, row.to), row.url) << Utf8FromText(row.from) << ' ' << Utf8FromText(row.to);
+}
+
+TEST(Paths, AURLIsResolvedInTheSeparatorOfTheTexts) {
+    for (const ResolveCase& row : ResolveCases) {
+        EXPECT_EQ(ResolveRelativePath(row.base, row.relative), row.path)
+            << Utf8FromText(row.base) << ' ' << Utf8FromText(row.relative);
+    }
+}
+
+TEST(Paths, PathsInWhichEverythingRepeatsTakeNoLonger) {
+    Text steps;
+    Text folders;
+    for (int count = 0; count < 300000; ++count) {
+        steps += u"../";
+        folders += u"/a";
+    }
+    EXPECT_EQ(ResolveRelativePath(folders + u"/x.html", steps + u"a/y.css"), u"/a/y.css");
+    EXPECT_EQ(ResolveRelativePath(Text(1000000, u'a') + u"/x.html", steps + u"a/y.css"),
+              Text(1000000, u'a') + u"/a/y.css");
+    EXPECT_EQ(GetRelativePath(folders + u"/x.html", folders + u"b/y.css"), u"../ab/y.css");
 }
 
 TEST(Paths, QuotesStandAtBothEndsOnce) {

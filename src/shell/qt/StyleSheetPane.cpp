@@ -1,6 +1,5 @@
 #include "shell/qt/StyleSheetPane.h"
 
-#include "linking/Paths.h"
 #include "linking/TextFiles.h"
 #include "text/qt/QtText.h"
 
@@ -20,25 +19,28 @@ bool IsBuilt(const ContextMenuEntry& entry) {
 
 }  // namespace
 
-StyleSheetPane::StyleSheetPane(const QString& caption, EditorFrame& frame, SettingsStore& settings)
+StyleSheetPane::StyleSheetPane(const QString& caption, EditorFrame& frame, FileDialogs& dialogs,
+                               SettingsStore& settings)
     : frame_(frame),
-      caption_(caption),
       dialogs_(*this, IsBuilt),
       view_(this),
-      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, dialogs_, clipboard_, settings, clock_}) {
+      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, dialogs, dialogs_, clipboard_, settings,
+               clock_}) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(&view_);
     setFocusProxy(&view_);
+    window_.SetCaption(ToText(caption));
 }
 
 StyleSheetPane::~StyleSheetPane() = default;
 
 void StyleSheetPane::OpenStyleSheet(TextView path) {
-    caption_ = ToQString(GetFileNamePart(path));
     encoding_ = ReadDecodedFile(path).encoding;
     window_.OpenStyleSheet(path);
 }
+
+QString StyleSheetPane::Caption() const { return ToQString(window_.Caption()); }
 
 QString StyleSheetPane::FormatName() const {
     return (encoding_ == Encoding::Utf8 ? QStringLiteral("UTF-8") : QStringLiteral("windows-1252")) +

@@ -17,8 +17,8 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     Q_OBJECT
 
   public:
-    /// `frame` and `settings` must outlive the pane.
-    StyleSheetPane(const QString& caption, EditorFrame& frame, SettingsStore& settings);
+    /// All arguments must outlive the pane.
+    StyleSheetPane(const QString& caption, EditorFrame& frame, FileDialogs& dialogs, SettingsStore& settings);
     ~StyleSheetPane() override;
 
     /// Opens a style sheet, or the one that is embedded in a page. Throws `FileFailure` for a file that can't be read,
@@ -27,7 +27,7 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void OpenStyleSheet(TextView path);
 
     [[nodiscard]] const Text& File() const noexcept { return window_.StyleSheet().File(); }
-    [[nodiscard]] const QString& Caption() const noexcept { return caption_; }
+    [[nodiscard]] QString Caption() const;
     [[nodiscard]] bool IsDirty() const noexcept { return window_.IsDirty(); }
     [[nodiscard]] Text GetText() const { return window_.GetText(); }
     [[nodiscard]] const ktStyleSheet& StyleSheet() const noexcept { return window_.StyleSheet(); }
@@ -44,7 +44,8 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
   Q_SIGNALS:
     void StatementsChanged();
     void CurrentStatementChanged(int number);
-    void DirtyStateChanged();
+    /// The caption or the dirty mark.
+    void CaptionChanged();
 
   private:
     // DocumentFrame
@@ -55,7 +56,8 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void EnableCorePropertiesToolbar(bool) override {}
     void SetUpCorePropertiesToolbar(TextView) override {}
     void StatementsCached() override { Q_EMIT StatementsChanged(); }
-    void DirtyChanged(bool) override { Q_EMIT DirtyStateChanged(); }
+    void DirtyChanged(bool) override { Q_EMIT CaptionChanged(); }
+    void SetCaption(TextView) override { Q_EMIT CaptionChanged(); }
     void BringDocumentToFront() override { view_.setFocus(); }
 
     // StatementsPalette: the list of statements follows the signals.
@@ -64,7 +66,6 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void SelectStatement(int number) override { Q_EMIT CurrentStatementChanged(number); }
 
     EditorFrame& frame_;
-    QString caption_;
     Encoding encoding_ = Encoding::Utf8;
     QtClock clock_;
     QtClipboard clipboard_;

@@ -173,8 +173,9 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
 
 StyleSheetPane* frmMain::OpenNewStyleSheet() {
     ++newDocumentCount_;
-    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this, store_);
-    connect(pane, &StyleSheetPane::DirtyStateChanged, this, [this, pane] { UpdateCaption(pane); });
+    auto* const pane =
+        new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this, *messages_, store_);
+    connect(pane, &StyleSheetPane::CaptionChanged, this, [this, pane] { UpdateCaption(pane); });
     connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
     documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
@@ -231,13 +232,31 @@ void frmMain::UpdateCaption(const StyleSheetPane* pane) {
     setWindowModified(front != nullptr && front->IsDirty());
 }
 
-bool frmMain::MayClose(const StyleSheetPane& pane) {
-    return !pane.IsDirty() || messages_->MayDiscardChanges(pane.Caption());
+void frmMain::SaveStyleSheet() {
+    if (StyleSheetPane* const pane = ActiveDocument())
+        pane->Window().Save();
+}
+
+void frmMain::SaveStyleSheetAs() {
+    if (StyleSheetPane* const pane = ActiveDocument())
+        pane->Window().SaveAs();
+}
+
+void frmMain::SaveAllStyleSheets() {
+    for (StyleSheetPane* const pane : std::vector(openDocuments_)) {
+        if (pane->IsDirty())
+            pane->Window().Save();
+    }
+}
+
+void frmMain::UpdateMenus() {
+    if (StyleSheetPane* const pane = ActiveDocument())
+        pane->Window().UpdateMenus();
 }
 
 void frmMain::ClosePane(int index) {
     auto* const pane = qobject_cast<StyleSheetPane*>(documents_->widget(index));
-    if (pane != nullptr && MayClose(*pane))
+    if (pane != nullptr && pane->Window().DoHide())
         RemovePane(pane);
 }
 
@@ -278,8 +297,8 @@ void frmMain::ReportFault(const QString& what) {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    for (const StyleSheetPane* const pane : std::vector(openDocuments_)) {
-        if (!MayClose(*pane)) {
+    for (StyleSheetPane* const pane : std::vector(openDocuments_)) {
+        if (!pane->Window().DoHide()) {
             event->ignore();
             return;
         }

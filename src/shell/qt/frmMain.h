@@ -68,8 +68,7 @@ class frmMain : public QMainWindow, private EditorFrame {
     // EditorFrame
     [[nodiscard]] bool IsDocumentInFront() const override { return true; }
     void UpdateMenuItem(TextView key, bool enabled) override;
-    // The front document has no menu items of its own yet.
-    void UpdateMenus() override {}
+    void UpdateMenus() override;
     void SetStatusBarText(TextView pane, TextView text) override;
 
     void SetUpPanes();
@@ -87,7 +86,9 @@ class frmMain : public QMainWindow, private EditorFrame {
     void AskForStyleSheet();
     StyleSheetPane* OpenNewStyleSheet();
     void LoadInto(StyleSheetPane& pane, TextView path);
-    [[nodiscard]] bool MayClose(const StyleSheetPane& pane);
+    void SaveStyleSheet();
+    void SaveStyleSheetAs();
+    void SaveAllStyleSheets();
     void ClosePane(int index);
     void RemovePane(StyleSheetPane* pane);
     void PaneActivated();

@@ -58,6 +58,15 @@ void frmMain::SetUpFileMenu(QToolBar& standard) {
                                  {"miFOpen", "&Open…", "document-open", QKeySequence::Open,
                                   "Opens a style sheet, or the one that is embedded in a page"},
                                  [this] { AskForStyleSheet(); }));
+    standard.addAction(AddAction(file,
+                                 {"miFSave", "&Save", "document-save", QKeySequence::Save, "Saves the style sheet"},
+                                 [this] { SaveStyleSheet(); }));
+    AddAction(
+        file,
+        {"miFSaveAs", "Save &As…", "document-save-as", QKeySequence::SaveAs, "Saves the style sheet in another file"},
+        [this] { SaveStyleSheetAs(); });
+    AddAction(file, {"miFSaveAll", "Save A&ll", "document-save-all", {}, "Saves all style sheets that have changed"},
+              [this] { SaveAllStyleSheets(); });
     AddAction(file, {"miFCloseWindow", "&Close", "document-close", QKeySequence::Close, "Closes the style sheet"},
               [this] { ClosePane(documents_->currentIndex()); });
     file.addSeparator();
