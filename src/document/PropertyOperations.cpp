@@ -140,7 +140,8 @@ void ktStyleSheetWindow::RemovePropertyFromCurrentStatement(TextView name) {
     const int end = SkipWhitespaceForward(text, found.start) - 1;
     if (end > start)
         ReplaceText(separator, start, end);
-    if (UnitAt(GetText(), end) == u'}') {
+    // `end` is a position in the text in which it was found.
+    if (UnitAt(text, end) == u'}') {
         InsertText(separator, end);
         if (end >= 1)
             SetSelection(end - 1, end - 1);
