@@ -306,6 +306,28 @@ TEST_F(frmMainTest, TheListShowsTheStatementAtTheCaret) {
         [&] { return Statements().currentItem() != nullptr && Statements().currentItem()->text(0) == "p"; }, 3000));
 }
 
+TEST_F(frmMainTest, TheListShowsAStatementThatIsTypedAtTheEnd) {
+    window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}\n"));
+    ktStyleSheetWindow& document = window->ActiveDocument()->Window();
+    document.SetSelection(6, 6);
+    document.InsertText(u"p {}", 6);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return Statements().currentItem() != nullptr && Statements().currentItem()->text(0) == "p"; }, 3000));
+}
+
+TEST_F(frmMainTest, ASavedStyleSheetIsInItsFileAndClean) {
+    const Text path = MakeFile("a.css", "h1 {}\r\n");
+    window->OpenOneStyleSheet(path);
+    window->ActiveDocument()->Window().InsertText(u"p {}\n", 0);
+    QAction* const save = window->findChild<QAction*>("miFSave");
+    EXPECT_TRUE(save->isEnabled());
+    EXPECT_TRUE(window->isWindowModified());
+    save->trigger();
+    EXPECT_EQ(ReadFileBytes(path), "p {}\r\nh1 {}\r\n");
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_FALSE(save->isEnabled());
+}
+
 TEST_F(frmMainTest, TheMainWindowCanBeFound) {
     EXPECT_EQ(GetMainWindow(), window.get());
     window.reset();

@@ -47,6 +47,11 @@ QString StyleSheetPane::FormatName() const {
            QStringLiteral("   ") + view_.LineEndName();
 }
 
+void StyleSheetPane::StatementsCached() {
+    Q_EMIT StatementsChanged();
+    Q_EMIT CurrentStatementChanged(window_.GetCurrentStatementNumber(window_.GetSelectionStart()));
+}
+
 void StyleSheetPane::SelectText(int start, int length) {
     window_.SetSelection(start, start + length);
     view_.setFocus();

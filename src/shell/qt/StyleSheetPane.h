@@ -55,7 +55,7 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void SetStatusBarText(TextView pane, TextView text) override { frame_.SetStatusBarText(pane, text); }
     void EnableCorePropertiesToolbar(bool) override {}
     void SetUpCorePropertiesToolbar(TextView) override {}
-    void StatementsCached() override { Q_EMIT StatementsChanged(); }
+    void StatementsCached() override;
     void DirtyChanged(bool) override { Q_EMIT CaptionChanged(); }
     void SetCaption(TextView) override { Q_EMIT CaptionChanged(); }
     void BringDocumentToFront() override { view_.setFocus(); }
