@@ -73,9 +73,17 @@ bool ktStyleSheetWindow::MayOverwrite(TextView path, const Text& present) {
 
 void ktStyleSheetWindow::SaveIntoPage(const Text& path) {
     const Text text = GetText();
-    EmbedStyleSheetInHTMLFile(path, text, {});
-    knownFileText_ = ReadTextFile(path);
-    if (ExtractStyleSheetText(*knownFileText_) != text)
+    bool isInPage = false;
+    try {
+        EmbedStyleSheetInHTMLFile(path, text, {});
+        knownFileText_ = ReadTextFile(path);
+        isInPage = ExtractStyleSheetText(*knownFileText_) == text;
+    } catch (const OverflowFailure&) {
+        // The head of the page is too long; the page is as it was.
+    } catch (const UnclosedElementFailure&) {
+        // The style element of the page doesn't end; the page is as it was.
+    }
+    if (!isInPage)
         frame_.SetStatusBarText(u"Message", u"The style sheet couldn't be put into " + GetFileNamePart(path) + u".");
 }
 

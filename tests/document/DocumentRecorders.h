@@ -28,7 +28,11 @@ class RecordingFrame final : public DocumentFrame {
     [[nodiscard]] bool IsDocumentInFront() const override { return true; }
     void UpdateMenuItem(TextView, bool) override {}
     void UpdateMenus() override { ++menuUpdates; }
-    void SetStatusBarText(TextView, TextView) override {}
+    void SetStatusBarText(TextView pane, TextView text) override {
+        // The caret's place is told with every move.
+        if (pane != u"CaretPosition")
+            calls_.push_back(Utf8FromText(pane) + ": " + Utf8FromText(text));
+    }
     void EnableCorePropertiesToolbar(bool enabled) override {
         calls_.emplace_back(enabled ? "EnableToolbar" : "DisableToolbar");
     }

@@ -112,6 +112,22 @@ TEST_F(FileOperationsTest, APageGetsTheTextIntoItsStyleElementAndStaysDirty) {
     EXPECT_TRUE(window_.IsDirty());
 }
 
+TEST_F(FileOperationsTest, APageWithNoPlaceForTheTextIsLeftAloneAndToldOf) {
+    for (const char* const page : {"<html><body></body></html>", "<html><head></head><body><style></html>"}) {
+        Open(MakeFile("good.html", "<html><head><style>h1 {}</style></head></html>"));
+        MakeFile("good.html", page);
+        document_.files.changedFileAnswer = FileDialogs::ChangedFileAnswer::Overwrite;
+        document_.calls.clear();
+        Change();
+        window_.Save();
+        EXPECT_EQ(BytesOf("good.html"), page);
+        EXPECT_TRUE(window_.IsDirty());
+        const Calls calls = document_.TakeCalls();
+        EXPECT_NE(std::find(calls.begin(), calls.end(), "Message: The style sheet couldn't be put into good.html."),
+                  calls.end());
+    }
+}
+
 TEST_F(FileOperationsTest, SavingUnderAnotherNameOverwritesAPage) {
     Open(MakeFile("a.css", "h1 {}"));
     Change();

@@ -194,8 +194,11 @@ void frmMain::SetUpStatusBar() {
 }
 
 void frmMain::SetStatusBarText(TextView pane, TextView text) {
-    if (auto* const label = statusBar()->findChild<QLabel*>(ToQString(pane)))
+    auto* const label = statusBar()->findChild<QLabel*>(ToQString(pane));
+    if (label != nullptr)
         label->setText(ToQString(text));
+    else
+        statusBar()->showMessage(ToQString(text));
 }
 
 void frmMain::UpdateMenuItem(TextView key, bool enabled) {
