@@ -19,9 +19,10 @@ constexpr TextView CopyMark = u"(copy of)";
 }  // namespace
 
 void ktStyleSheetWindow::LoadStyleSheet(TextView path) {
-    Text text = ReadTextFile(path);
-    editor_.SetText(ExtractStyleSheetText(text));
-    knownFileText_ = std::move(text);
+    DecodedText file = ReadDecodedFile(path);
+    fileEncoding_ = file.encoding;
+    editor_.SetText(ExtractStyleSheetText(file.text));
+    knownFileText_ = std::move(file.text);
     CacheStatements();
 }
 

@@ -62,9 +62,12 @@ int SelectorLengthInText(TextView statement, int type, TextView selector) {
 
 int ktStyleSheetWindow::GetCurrentStatementNumber(int offset) const { return styleSheet_.GetStatementNumber(offset); }
 
+int ktStyleSheetWindow::StatementCount() const {
+    return static_cast<int>(styleSheet_.GetAllStatementsAsTextUnstripped().size());
+}
+
 int ktStyleSheetWindow::CurrentNumber() const {
-    const auto count = static_cast<int>(styleSheet_.GetAllStatementsAsTextUnstripped().size());
-    return std::min(GetCurrentStatementNumber(GetSelectionStart()), count);
+    return std::min(GetCurrentStatementNumber(GetSelectionStart()), StatementCount());
 }
 
 bool ktStyleSheetWindow::IsFirstStatementCurrent() const { return CurrentNumber() == 1; }
@@ -132,8 +135,7 @@ int ktStyleSheetWindow::ReachOfFirst(int end) const {
 
 void ktStyleSheetWindow::StatementSelected(int number) {
     lastSelectedStatement_ = number;
-    const auto count = static_cast<int>(styleSheet_.GetAllStatementsAsTextUnstripped().size());
-    if (number < 1 || number > count)
+    if (number < 1 || number > StatementCount())
         return;
     const Text statement = styleSheet_.getNthStatementAsText(number - 1);
     const std::size_t place = styleSheet_.GetStyleSheetText().find(statement);

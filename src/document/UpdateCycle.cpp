@@ -146,8 +146,7 @@ void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
     const int number = GetCurrentStatementNumber(offset);
     statements_.SelectStatement(number);
     // The caret at the end of the text may belong to the last statement without the number having changed.
-    const auto count = static_cast<int>(styleSheet_.GetAllStatementsAsTextUnstripped().size());
-    const bool isOther = number != lastSelectedStatement_ || number == count;
+    const bool isOther = number != lastSelectedStatement_ || number == StatementCount();
     if (isOther) {
         lastSelectedStatement_ = number;
         UpdateCorePropertiesToolbar();
@@ -171,11 +170,12 @@ void ktStyleSheetWindow::KeyDown(int code) {
         code == key_code::SemicolonOrColon) {
         SetNeedsUpdating(true);
     } else {
-        Text value = GetCurrentPropertyValue();
+        const Text declaration = GetCurrentProperty();
+        Text value = styleSheet_.GetPropertyValue(declaration);
         if (code != 0)
             value.push_back(static_cast<char16_t>(code));
         // A declaration that was valid before this key goes out to the palettes now.
-        if (value.empty() || !ValidatePropertyValue(GetCurrentPropertyName(), value))
+        if (value.empty() || !ValidatePropertyValue(styleSheet_.GetPropertyName(declaration), value))
             SetNeedsUpdating(false);
         else
             UpdateOnIdle();
@@ -185,9 +185,6 @@ void ktStyleSheetWindow::KeyDown(int code) {
 }
 
 void ktStyleSheetWindow::KeyUp(int code) {
-    const auto isValid = [](const Text& name, const Text& value) {
-        return !value.empty() && ValidatePropertyValue(name, value);
-    };
     if (GetCurrentSelectorType() < selector_type::Type) {
         SetSelectorsNeedUpdating(true);
     } else if (CursorInSelector()) {
@@ -198,15 +195,17 @@ void ktStyleSheetWindow::KeyUp(int code) {
     } else if (code == key_code::ClosingBracketOrBrace || code == key_code::Backspace) {
         SetNeedsUpdating(true);
     } else if (code == key_code::SemicolonOrColon) {
-        const int offset = GetSelectionStart() - 1;
-        const Text value = GetCurrentPropertyValueFromChar(offset);
+        const Text declaration = GetCurrentPropertyFromChar(GetSelectionStart() - 1);
+        const Text value = styleSheet_.GetPropertyValue(declaration);
         // Where the value is valid the press has set the flag already, and stopped the timer.
-        if (!value.empty() && !ValidatePropertyValue(GetCurrentPropertyNameFromChar(offset), value))
+        if (!value.empty() && !ValidatePropertyValue(styleSheet_.GetPropertyName(declaration), value))
             SetNeedsUpdating(true);
         else if (needsUpdating_)
             ResetIdleTimer();
     } else {
-        SetNeedsUpdating(isValid(GetCurrentPropertyNameFromText(), GetCurrentPropertyValueFromText()));
+        const Text declaration = GetCurrentPropertyFromText();
+        const Text value = styleSheet_.GetPropertyValue(declaration);
+        SetNeedsUpdating(!value.empty() && ValidatePropertyValue(styleSheet_.GetPropertyName(declaration), value));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "model/StyleSheetTextSource.h"
 #include "model/ktStyleSheet.h"
 #include "settings/SettingsStore.h"
+#include "text/Encoding.h"
 #include "text/Text.h"
 
 #include <memory>
@@ -93,6 +94,9 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     /// The path of the document; "" for one that was never saved.
     [[nodiscard]] const Text& GetFile() const noexcept { return styleSheet_.File(); }
+
+    /// The encoding of the file as it was read last; UTF-8 before that.
+    [[nodiscard]] Encoding FileEncoding() const noexcept { return fileEncoding_; }
 
     /// The caption: a file's name without its folder, or the name of a new document.
     [[nodiscard]] const Text& Caption() const noexcept { return caption_; }
@@ -248,6 +252,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     };
 
     [[nodiscard]] FoundProperty FindProperty(TextView name) const;
+    [[nodiscard]] int StatementCount() const;
     [[nodiscard]] int CurrentNumber() const;
     [[nodiscard]] bool IsFirstStatementCurrent() const;
 
@@ -302,6 +307,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     Text caption_;
     /// The text of the file as it was read or written last; nothing before that.
     std::optional<Text> knownFileText_;
+    Encoding fileEncoding_ = Encoding::Utf8;
     int lastSelectedStatement_ = 0;
     bool isDirty_ = false;
     bool needsUpdating_ = false;

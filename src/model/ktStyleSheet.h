@@ -47,8 +47,7 @@ class ktStyleSheet {
     void CacheStatements(TextView text = {});
 
     /// The cache itself. Each statement keeps the white space behind it; the first also keeps what is in front of it.
-    /// An
-    /// `@media` block is followed by its nested statements, as entries of their own.
+    /// An `@media` block is followed by its nested statements, as entries of their own.
     [[nodiscard]] const Texts& GetAllStatementsAsTextUnstripped() const noexcept {
         return cachedStatements_.statements;
     }

@@ -318,7 +318,6 @@ int ScintillaSourceView::LineHeight() const {
 
 void ScintillaSourceView::SetLex(std::unique_ptr<LexClass> lex) {
     tokens_.SetLex(std::move(lex));
-    tokens_.Reset(NumLines());
     Recolor();
 }
 

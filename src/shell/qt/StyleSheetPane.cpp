@@ -1,6 +1,5 @@
 #include "shell/qt/StyleSheetPane.h"
 
-#include "linking/TextFiles.h"
 #include "text/qt/QtText.h"
 
 #include <QVBoxLayout>
@@ -35,15 +34,10 @@ StyleSheetPane::StyleSheetPane(const QString& caption, EditorFrame& frame, FileD
 
 StyleSheetPane::~StyleSheetPane() = default;
 
-void StyleSheetPane::OpenStyleSheet(TextView path) {
-    encoding_ = ReadDecodedFile(path).encoding;
-    window_.OpenStyleSheet(path);
-}
-
 QString StyleSheetPane::Caption() const { return ToQString(window_.Caption()); }
 
 QString StyleSheetPane::FormatName() const {
-    return (encoding_ == Encoding::Utf8 ? QStringLiteral("UTF-8") : QStringLiteral("windows-1252")) +
+    return (window_.FileEncoding() == Encoding::Utf8 ? QStringLiteral("UTF-8") : QStringLiteral("windows-1252")) +
            QStringLiteral("   ") + view_.LineEndName();
 }
 

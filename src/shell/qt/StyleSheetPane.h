@@ -6,7 +6,6 @@
 #include "editor/qt/QtClipboard.h"
 #include "editor/qt/ScintillaSourceView.h"
 #include "shell/qt/UnbuiltPalettes.h"
-#include "text/Encoding.h"
 
 #include <QWidget>
 
@@ -24,7 +23,7 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     /// Opens a style sheet, or the one that is embedded in a page. Throws `FileFailure` for a file that can't be read,
     /// `UnclosedElementFailure` for a page whose style element doesn't end, and `OverflowFailure` for a text beyond the
     /// length limit, which is then in the editor all the same.
-    void OpenStyleSheet(TextView path);
+    void OpenStyleSheet(TextView path) { window_.OpenStyleSheet(path); }
 
     [[nodiscard]] const Text& File() const noexcept { return window_.StyleSheet().File(); }
     [[nodiscard]] QString Caption() const;
@@ -66,7 +65,6 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void SelectStatement(int number) override { Q_EMIT CurrentStatementChanged(number); }
 
     EditorFrame& frame_;
-    Encoding encoding_ = Encoding::Utf8;
     QtClock clock_;
     QtClipboard clipboard_;
     EditorDialogBoxes dialogs_;
