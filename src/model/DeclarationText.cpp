@@ -98,6 +98,16 @@ Texts ExtractPropertiesAsCollection(TextView statement) {
     return TextsAt(body, cutter.Places());
 }
 
+Texts GetClosedDeclarations(TextView body) {
+    static_cast<void>(NarrowLength(body));
+    if (body.size() < 2 || body == u"{}")
+        return {};
+    const TextView inner = WithoutBraces(body);
+    BodyCutter cutter(inner);
+    cutter.Cut([&](std::size_t index) { cutter.Take(index, index + 1); });
+    return TextsAt(inner, cutter.Places());
+}
+
 Texts GetStatementProperties(TextView body) { return TextsAt(body, FindStatementProperties(body)); }
 
 std::vector<DeclarationPlace> FindStatementProperties(TextView body) {

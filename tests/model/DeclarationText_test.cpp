@@ -102,6 +102,38 @@ TEST(DeclarationText, KeptDeclarationsHaveTheirSemicolons) {
     }
 }
 
+const std::vector<SplitCase> Closed = {
+    {u"", {}},
+    {u"{", {}},
+    {u";", {}},
+    {u"{}", {}},
+    {u"{ }", {}},
+    {u"{b: c; d: e;}", {u"b: c", u"d: e"}},
+    {u"{b: c; d: e}", {u"b: c"}},
+    {u"{b: c}", {}},
+    {u"b: c; d: e;", {u"b: c", u"d: e"}},
+    {u"b: c;", {u"b: c"}},
+    {u"{a:b;;c:d;}", {u"a:b", u"", u"c:d"}},
+    {u"{;a:b;}", {u"", u"a:b"}},
+    {u"{ ; }", {u""}},
+    {u"{b: c} d: e;}", {u"b: c", u"d: e"}},
+    {u"{b: c}}", {u"b: c"}},
+    {u"{}}", {u""}},
+    {u"{/* x; y */ b: c;}", {u"/* x; y */", u"b: c"}},
+    {u"{b: /* x */ c;}", {u"b: /* x */", u"c"}},
+    {u"{b: c /* x */; d: e;}", {u"b: c /* x */", u"", u"d: e"}},
+    {u"{/*/ b: c;}", {u"/*/", u"b: c"}},
+    {u"{/* open; b: c;}", {}},
+    {u"/* x */", {u"/* x */"}},
+};
+
+TEST(DeclarationText, ClosedDeclarationsBeginBehindTheEndInFrontOfThem) {
+    for (const SplitCase& row : Closed) {
+        SCOPED_TRACE(Utf8FromText(row.text));
+        EXPECT_EQ(GetClosedDeclarations(row.text), row.pieces);
+    }
+}
+
 struct PartsCase {
     Text declaration;
     Text name;
@@ -190,6 +222,8 @@ TEST(DeclarationText, ABodyBeyondTheLimitFails) {
     EXPECT_EQ(GetStatementProperties(limit).size(), MaximumTextLength);
     EXPECT_THROW(static_cast<void>(GetStatementProperties(limit + u";")), OverflowFailure);
     EXPECT_THROW(static_cast<void>(ExtractProperties(limit + u";")), OverflowFailure);
+    EXPECT_EQ(GetClosedDeclarations(limit).size(), MaximumTextLength);
+    EXPECT_THROW(static_cast<void>(GetClosedDeclarations(limit + u";")), OverflowFailure);
 }
 
 }  // namespace
