@@ -61,6 +61,9 @@ inline constexpr SettingKey LastPreviewCSSFile{u"Preview", u"LastPreviewCSSFile"
 inline constexpr SettingKey LastCurrentRulePreviewFile{u"Preview", u"LastCurrentRulePreviewFile", u""};
 inline constexpr SettingKey FilesToDelete{u"Preview", u"FilesToDelete", u""};
 
+/// The files that were opened and saved last, the latest first.
+inline constexpr SettingKey RecentFiles{u"Recent", u"Files", u""};
+
 /// The mailbox by which a second instance hands its file to the first; "" when nothing waits.
 inline constexpr SettingKey OpenMe{u"Temp", u"OpenMe", u""};
 

@@ -49,6 +49,7 @@ constexpr auto KeyCases = std::to_array<KeyCase>({
     {setting::LastPreviewCSSFile, u"Preview", u"LastPreviewCSSFile", u""},
     {setting::LastCurrentRulePreviewFile, u"Preview", u"LastCurrentRulePreviewFile", u""},
     {setting::FilesToDelete, u"Preview", u"FilesToDelete", u""},
+    {setting::RecentFiles, u"Recent", u"Files", u""},
     {setting::OpenMe, u"Temp", u"OpenMe", u""},
 });
 
