@@ -36,10 +36,15 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
                                              public SupportWarnings,
                                              public StatementDialogs,
                                              public FileDialogs,
+                                             public PageDialogs,
                                              public EditorDialogs,
                                              public Clipboard {
   public:
     // DocumentFrame
+    [[nodiscard]] bool IsActiveDocument() const override { return true; }
+    void StyleSheetWindowActivated() override {}
+    void StyleSheetWindowClosed() override {}
+    void EnableDocumentCommands(bool) override {}
     [[nodiscard]] bool IsDocumentInFront() const override { return true; }
     void UpdateMenuItem(TextView, bool) override {}
     void UpdateMenus() override {}
@@ -73,6 +78,13 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     [[nodiscard]] SaveAnswer AskSaveChanges(TextView, TextView) override { return SaveAnswer::Cancel; }
     [[nodiscard]] ChangedFileAnswer AskAboutChangedFile(TextView) override { return ChangedFileAnswer::Cancel; }
     void ShowWriteFailure(TextView) override {}
+    [[nodiscard]] std::optional<Text> AskPage(TextView) override { return std::nullopt; }
+    [[nodiscard]] std::optional<Text> AskFolder(TextView) override { return std::nullopt; }
+    [[nodiscard]] bool Confirm(TextView) override { return false; }
+    [[nodiscard]] std::optional<PageOptions> AskLinkOptions() override { return std::nullopt; }
+    [[nodiscard]] std::optional<PageOptions> AskEmbedOptions() override { return std::nullopt; }
+    void ShowBusy(bool) override {}
+    [[nodiscard]] std::unique_ptr<PageProgress> ShowProgress(int) override { return nullptr; }
     [[nodiscard]] std::optional<int> AskLineNumber() override { return std::nullopt; }
     [[nodiscard]] Text ChooseFromMenu(const std::vector<ContextMenuEntry>&) override { return {}; }
     void ShowMessage(TextView, TextView) override {}
@@ -85,13 +97,14 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     Texts calls;
     Text answer;
     Text clipboardText;
+    NoRecoveryCopies recovery;
 };
 
 HeadlessDocument::HeadlessDocument(SettingsStore& settings)
     : surroundings_(std::make_unique<Surroundings>()), view_(std::make_unique<MemorySourceView>(*surroundings_)) {
     Surroundings& all = *surroundings_;
-    window_ = std::make_unique<ktStyleSheetWindow>(
-        ktStyleSheetWindow::Surroundings{*view_, all, all, all, all, all, all, all, all, all, settings, clock_});
+    window_ = std::make_unique<ktStyleSheetWindow>(ktStyleSheetWindow::Surroundings{
+        *view_, all, all, all, all, all, all, all, all, all.recovery, all, all, settings, clock_});
 }
 
 HeadlessDocument::~HeadlessDocument() = default;

@@ -4,6 +4,7 @@
 #include "linking/TextWriting.h"
 #include "text/Text.h"
 
+#include <memory>
 #include <optional>
 
 /// What a document window calls outside of itself: the main window, the palettes, the preview and its questions.
@@ -12,6 +13,17 @@ namespace tintora {
 /// The main window, as a document sees it.
 class DocumentFrame : public EditorFrame {
   public:
+    /// Whether this document is the front one, to which the palettes and the menus belong.
+    [[nodiscard]] virtual bool IsActiveDocument() const = 0;
+
+    /// The document comes to the front of the list of open documents, or leaves the list.
+    virtual void StyleSheetWindowActivated() = 0;
+    virtual void StyleSheetWindowClosed() = 0;
+
+    /// Enables or disables every command that acts on the front document, but for those that have rules of their own:
+    /// saving, the new `@import`, and what the editor's `UpdateMenu` switches.
+    virtual void EnableDocumentCommands(bool enabled) = 0;
+
     /// Enables the toolbar of core properties, or clears and disables it.
     virtual void EnableCorePropertiesToolbar(bool enabled) = 0;
 
@@ -46,6 +58,49 @@ class FileDialogs : public WriteMessages {
 
     /// What to do about a file that another program has changed since it was read or written here.
     [[nodiscard]] virtual ChangedFileAnswer AskAboutChangedFile(TextView path) = 0;
+};
+
+/// What a link to a style sheet, or a style sheet that is embedded, says of itself, and in which pages.
+struct PageOptions {
+    Text rel;
+    Text title;
+    Text media;
+    Texts targets;
+};
+
+/// Shows how a work on many pages goes on, for as long as it lives.
+class PageProgress {
+  public:
+    PageProgress() = default;
+    PageProgress(const PageProgress&) = delete;
+    PageProgress& operator=(const PageProgress&) = delete;
+    virtual ~PageProgress() = default;
+
+    /// `count` pages are done; false if the user wants no more of it.
+    [[nodiscard]] virtual bool GoOn(int count) = 0;
+};
+
+/// What a document asks about pages.
+class PageDialogs {
+  public:
+    virtual ~PageDialogs() = default;
+
+    /// A page, by a dialog with that title; nothing if it is cancelled.
+    [[nodiscard]] virtual std::optional<Text> AskPage(TextView title) = 0;
+
+    /// A folder, by a dialog with that prompt; nothing if it is cancelled.
+    [[nodiscard]] virtual std::optional<Text> AskFolder(TextView prompt) = 0;
+
+    /// The answer to a question with OK and Cancel.
+    [[nodiscard]] virtual bool Confirm(TextView question) = 0;
+
+    /// Nothing if it is cancelled.
+    [[nodiscard]] virtual std::optional<PageOptions> AskLinkOptions() = 0;
+    [[nodiscard]] virtual std::optional<PageOptions> AskEmbedOptions() = 0;
+
+    /// The sign that something takes long, switched on and off.
+    virtual void ShowBusy(bool isBusy) = 0;
+    [[nodiscard]] virtual std::unique_ptr<PageProgress> ShowProgress(int pageCount) = 0;
 };
 
 /// The palette of statements. It must exist.

@@ -8,6 +8,8 @@
 #include "text/Narrowing.h"
 #include "text/StringTable.h"
 
+#include <optional>
+
 namespace tintora {
 
 namespace {
@@ -16,13 +18,22 @@ constexpr TextView ClosingQuestion = u"Save changes to the style sheet \"^0\" be
 constexpr TextView ClosingTitle = u"Save Style Sheet Before Closing?";
 constexpr TextView CopyMark = u"(copy of)";
 
+/// Nothing for a file that can't be read: whoever writes it tells why.
+std::optional<DecodedText> TryToRead(TextView path) {
+    try {
+        return ReadDecodedFile(path);
+    } catch (const FileFailure&) {
+        return std::nullopt;
+    }
+}
+
 }  // namespace
 
 void ktStyleSheetWindow::LoadStyleSheet(TextView path) {
     DecodedText file = ReadDecodedFile(path);
     fileEncoding_ = file.encoding;
     editor_.SetText(ExtractStyleSheetText(file.text));
-    knownFileText_ = std::move(file.text);
+    knownFile_.Remember(path, std::move(file.text));
     CacheStatements();
 }
 
@@ -32,10 +43,10 @@ void ktStyleSheetWindow::LoadContent(TextView file) {
     try {
         LoadStyleSheet(file);
     } catch (const OverflowFailure&) {
-        SetDirty(false);
+        TextIsSaved();
         throw;
     }
-    SetDirty(false);
+    TextIsSaved();
     UpdateEditors();
 }
 
@@ -45,12 +56,18 @@ void ktStyleSheetWindow::OpenStyleSheet(TextView path) {
     LivePreview();
 }
 
+void ktStyleSheetWindow::Reload() {
+    const int caret = GetSelectionStart();
+    LoadContent(Text(GetFile()));
+    SetSelection(caret, caret);
+}
+
 void ktStyleSheetWindow::OpenLinkedStyleSheet(TextView htmlPath) { OpenStyleSheet(GetLinkedStyleSheetPath(htmlPath)); }
 
 void ktStyleSheetWindow::NewStyleSheetFromTemplate(TextView path) {
     OpenStyleSheet(path);
     styleSheet_.SetFile({});
-    knownFileText_.reset();
+    knownFile_.Forget();
     SetDirty(true);
     SetCaption(caption_ + Text(CopyMark));
 }
@@ -60,13 +77,18 @@ void ktStyleSheetWindow::SetCaption(TextView path) {
     frame_.SetCaption(caption_);
 }
 
-bool ktStyleSheetWindow::MayOverwrite(TextView path, const Text& present) {
-    const bool isOwnFile = path == GetFile() && knownFileText_;
-    if (!isOwnFile || present == *knownFileText_ || !FileExists(path))
+void ktStyleSheetWindow::TextIsSaved() {
+    SetDirty(false);
+    isUnwritten_ = false;
+    unsavedCopy_.Drop();
+}
+
+bool ktStyleSheetWindow::MayOverwrite(TextView path, TextView present) {
+    if (path != GetFile() || !knownFile_.IsOther(present) || !FileExists(path))
         return true;
     switch (fileDialogs_.AskAboutChangedFile(path)) {
         case FileDialogs::ChangedFileAnswer::Overwrite: return true;
-        case FileDialogs::ChangedFileAnswer::Reload: LoadContent(path); return false;
+        case FileDialogs::ChangedFileAnswer::Reload: Reload(); return false;
         case FileDialogs::ChangedFileAnswer::Cancel: break;
     }
     return false;
@@ -76,32 +98,37 @@ void ktStyleSheetWindow::SaveIntoPage(const Text& path) {
     const Text text = GetText();
     bool isInPage = false;
     try {
-        EmbedStyleSheetInHTMLFile(path, text, {});
-        knownFileText_ = ReadTextFile(path);
-        isInPage = ExtractStyleSheetText(*knownFileText_) == text;
+        EmbedStyleSheetInHTMLFile(path, text, {}, WriterOfPages());
+        Text page = ReadTextFile(path);
+        isInPage = ExtractStyleSheetText(page) == text;
+        knownFile_.Remember(path, std::move(page));
     } catch (const OverflowFailure&) {
         // The head of the page is too long; the page is as it was.
     } catch (const UnclosedElementFailure&) {
         // The style element of the page doesn't end; the page is as it was.
     }
-    if (!isInPage)
+    // The document stays dirty, but its text is in a file.
+    if (isInPage)
+        unsavedCopy_.Drop();
+    else
         frame_.SetStatusBarText(u"Message", u"The style sheet couldn't be put into " + GetFileNamePart(path) + u".");
 }
 
 void ktStyleSheetWindow::SaveInto(const Text& path) {
-    const Text present = ReadTextFile(path);
-    if (!MayOverwrite(path, present))
+    const std::optional<DecodedText> present = TryToRead(path);
+    if (present && !MayOverwrite(path, present->text))
         return;
-    if (ContainsHTMLTags(present)) {
+    if (present && ContainsHTMLTags(present->text)) {
         SaveIntoPage(path);
         return;
     }
     const Text text = GetText();
-    if (!WriteTextFileChecked(path, text, fileDialogs_))
+    if (!WriteTextFileChecked(path, text, fileDialogs_, recovery_.Journal()))
         return;
+    fileEncoding_ = present->encoding;
     styleSheet_.SetFile(path);
-    knownFileText_ = text;
-    SetDirty(false);
+    knownFile_.Remember(path, text);
+    TextIsSaved();
 }
 
 void ktStyleSheetWindow::Save() {
@@ -114,7 +141,8 @@ void ktStyleSheetWindow::Save() {
         SetCaption(path);
     }
     SaveInto(path);
-    frame_.UpdateMenus();
+    EnableMenus();
+    UpdateMenus();
 }
 
 void ktStyleSheetWindow::SaveAs() {
@@ -123,17 +151,30 @@ void ktStyleSheetWindow::SaveAs() {
         return;
     SetCaption(*path);
     styleSheet_.SetFile(*path);
+    const std::optional<DecodedText> present = TryToRead(*path);
     const Text text = GetText();
-    WriteTextFileWarning(*path, text, fileDialogs_);
-    knownFileText_ = text;
-    SetDirty(false);
-    frame_.UpdateMenus();
+    const bool isWritten = WriteTextFileChecked(*path, text, fileDialogs_, recovery_.Journal());
+    knownFile_.Remember(*path, text);
+    if (isWritten) {
+        fileEncoding_ = present->encoding;
+        TextIsSaved();
+    } else {
+        // The document counts as clean, and its recovery copy is the only one of its text.
+        SetDirty(false);
+        isUnwritten_ = true;
+        unsavedCopy_.Keep();
+    }
+    EnableMenus();
+    UpdateMenus();
 }
 
 void ktStyleSheetWindow::SaveBeforeClosing() {
     switch (fileDialogs_.AskSaveChanges(ClosingTitle, FormatMessage(ClosingQuestion, caption_))) {
         case FileDialogs::SaveAnswer::Yes: Save(); break;
-        case FileDialogs::SaveAnswer::No: SetDirty(false); break;
+        case FileDialogs::SaveAnswer::No:
+            SetDirty(false);
+            isGivenUp_ = true;
+            break;
         case FileDialogs::SaveAnswer::Cancel: break;
     }
 }
@@ -143,12 +184,37 @@ bool ktStyleSheetWindow::DoHide() {
         SaveBeforeClosing();
     if (IsDirty())
         return false;
-    DisablePropertiesEditors();
-    frame_.EnableCorePropertiesToolbar(false);
+    if (IsInFront()) {
+        DisablePropertiesEditors();
+        DisableMenus();
+        frame_.EnableCorePropertiesToolbar(false);
+    }
     return true;
 }
 
+void ktStyleSheetWindow::StayAfterAll() {
+    if (!isGivenUp_)
+        return;
+    isGivenUp_ = false;
+    SetDirty(true);
+    unsavedCopy_.Keep();
+}
+
+void ktStyleSheetWindow::Unload() {
+    const bool isInFront = IsInFront();
+    frame_.StyleSheetWindowClosed();
+    if (isInFront) {
+        ClearSelectorsPalette();
+        if (properties_.IsOpen())
+            ClearPropertiesEditor();
+    }
+    if (isGivenUp_ || (!IsDirty() && !isUnwritten_))
+        unsavedCopy_.Drop();
+}
+
 void ktStyleSheetWindow::UpdateMenus() {
+    if (!IsInFront())
+        return;
     frame_.UpdateMenuItem(u"miFSave", IsDirty());
     frame_.UpdateMenuItem(u"miSNewAtImport", !GetFile().empty() && FileExists(GetFile()));
 }

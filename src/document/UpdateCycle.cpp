@@ -28,6 +28,7 @@ void ktStyleSheetWindow::SetSelectorsNeedUpdating(bool needUpdating) {
 
 void ktStyleSheetWindow::TextChanged() {
     SetDirty(true);
+    unsavedCopy_.TextChanged();
     cacheStatementsDelay_->Restart();
 }
 
@@ -78,7 +79,7 @@ void ktStyleSheetWindow::LivePreview() { previewDelay_->Restart(); }
 void ktStyleSheetWindow::DisableNextPreview() { previewDelay_->Stop(); }
 
 void ktStyleSheetWindow::DoLivePreview() {
-    if (!Settings(settings_).GetLivePreviewOn())
+    if (!IsInFront() || !Settings(settings_).GetLivePreviewOn())
         return;
     preview_.PreviewNow();
     preview_.PreviewCurrentRule();
@@ -97,7 +98,7 @@ void ktStyleSheetWindow::UpdateEditorsOnStyleSheetChange() {
 }
 
 void ktStyleSheetWindow::UpdateSelectorsPalette() {
-    if (statements_.IsOpen())
+    if (IsInFront() && statements_.IsOpen())
         statements_.UpdateSelectors(styleSheet_.GetAllStatementsAsText(), StripLeftWhitespace(GetCurrentSelector()));
 }
 
@@ -107,7 +108,7 @@ void ktStyleSheetWindow::ClearSelectorsPalette() {
 }
 
 void ktStyleSheetWindow::UpdatePropertiesEditor() {
-    if (!properties_.IsOpen())
+    if (!IsInFront() || !properties_.IsOpen())
         return;
     const int offset = GetSelectionStart();
     const int type = styleSheet_.GetSelectorType(styleSheet_.GetSelectorFromSelection(offset));
@@ -133,6 +134,8 @@ void ktStyleSheetWindow::DisablePropertiesEditors() {
 }
 
 void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
+    if (!IsInFront())
+        return;
     const int offset = GetSelectionStart();
     const int type = styleSheet_.GetSelectorType(styleSheet_.GetSelectorFromSelection(offset));
     const bool hasRule = GetCurrentStatement().find(u'{') != Text::npos && type >= selector_type::Type;
@@ -142,6 +145,8 @@ void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
 }
 
 void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
+    if (!IsInFront())
+        return;
     const Text name = styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(offset));
     const int number = GetCurrentStatementNumber(offset);
     statements_.SelectStatement(number);
@@ -163,6 +168,31 @@ void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
             properties_.SetLastProperty(type);
     }
     frame_.UpdateMenus();
+}
+
+void ktStyleSheetWindow::EnableMenus() {
+    if (!IsInFront())
+        return;
+    frame_.EnableDocumentCommands(true);
+    editor_.UpdateMenu();
+}
+
+void ktStyleSheetWindow::DisableMenus() {
+    frame_.EnableDocumentCommands(false);
+    editor_.UpdateMenu();
+}
+
+void ktStyleSheetWindow::Activate() {
+    UpdateEditors();
+    frame_.StyleSheetWindowActivated();
+    RegisterWithEditors();
+    EnableMenus();
+    UpdateMenus();
+    preview_.PreviewCurrentRule();
+    preview_.PreviewNow();
+    editor_.UpdateStatusBar();
+    // What waited while another document was in front comes up now.
+    selectionChangedDelay_->Restart();
 }
 
 void ktStyleSheetWindow::KeyDown(int code) {

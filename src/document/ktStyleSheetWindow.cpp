@@ -26,6 +26,8 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
       warnings_(surroundings.warnings),
       statementDialogs_(surroundings.statementDialogs),
       fileDialogs_(surroundings.fileDialogs),
+      pageDialogs_(surroundings.pageDialogs),
+      recovery_(surroundings.recovery),
       settings_(surroundings.settings),
       textEditor_(surroundings.textEditor),
       editor_({surroundings.textEditor, *this, surroundings.frame, surroundings.clipboard, surroundings.editorDialogs,
@@ -35,10 +37,12 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
       selectionChangedDelay_(
           surroundings.clock.MakeTimer(SelectionInterval, [this] { SelectionChangedEvent(GetSelectionStart()); })),
       idleTimer_(surroundings.clock.MakeTimer(IdleInterval, [this] { UpdateOnIdle(); })),
-      previewDelay_(surroundings.clock.MakeTimer(PreviewInterval, [this] {
-          DoLivePreview();
-          needsPreviewing_ = false;
-      })) {
+      previewDelay_(surroundings.clock.MakeTimer(PreviewInterval,
+                                                 [this] {
+                                                     DoLivePreview();
+                                                     needsPreviewing_ = false;
+                                                 })),
+      unsavedCopy_(surroundings.recovery, surroundings.clock, [this] { return MakeRecoveryRecord(); }) {
     styleSheet_.setWindow(this);
     textEditor_.SetEvents(&keyRoad_);
     // A new window brings the palettes to itself.
@@ -56,6 +60,8 @@ void ktStyleSheetWindow::SetDirty(bool isDirty) {
     if (isDirty == isDirty_)
         return;
     isDirty_ = isDirty;
+    if (isDirty)
+        unsavedCopy_.TextChanged();
     frame_.DirtyChanged(isDirty);
 }
 

@@ -3,7 +3,10 @@
 #include "document/Clock.h"
 #include "document/DocumentSurroundings.h"
 #include "document/KeyRoad.h"
+#include "document/KnownFile.h"
+#include "document/RecoveryCopies.h"
 #include "document/Separators.h"
+#include "document/UnsavedCopy.h"
 #include "editor/CSSEditorSrcView.h"
 #include "model/StyleSheetTextSource.h"
 #include "model/ktStyleSheet.h"
@@ -11,8 +14,9 @@
 #include "text/Encoding.h"
 #include "text/Text.h"
 
+#include <functional>
 #include <memory>
-#include <optional>
+#include <string>
 
 namespace tintora {
 
@@ -41,6 +45,8 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
         SupportWarnings& warnings;
         StatementDialogs& statementDialogs;
         FileDialogs& fileDialogs;
+        PageDialogs& pageDialogs;
+        RecoveryCopies& recovery;
         EditorDialogs& editorDialogs;
         Clipboard& clipboard;
         SettingsStore& settings;
@@ -92,6 +98,51 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     /// Whether the window may go: true for a clean document, and for a dirty one that is clean after the question.
     [[nodiscard]] bool DoHide();
 
+    /// The window stays though it might have gone: what "No" has given up is unsaved again.
+    void StayAfterAll();
+
+    /// The window goes. What the user has saved or given up has no recovery copy afterwards.
+    void Unload();
+
+    /// Whether another program has changed the document's file since it was read or written here.
+    [[nodiscard]] bool HasFileChanged() { return !GetFile().empty() && knownFile_.HasChanged(GetFile()); }
+
+    /// Loads the file again, with the caret where it was.
+    void Reload();
+
+    /// The document keeps its own text; only saving asks about the change.
+    void IgnoreFileChange() { knownFile_.IgnoreChange(GetFile()); }
+
+    // What a crash leaves.
+
+    /// Puts the text of a recovery copy into this document, which is a new one: it is dirty, has the copy's path, and
+    /// keeps the copy of that name. Where the file isn't the one that the text comes from, saving asks.
+    void Recover(const std::string& name, const RecoveryRecord& copy);
+
+    /// Keeps the recovery copy of a text that is unsaved, now.
+    void KeepRecoveryCopy();
+
+    // Pages. What goes wrong with a page ends a command quietly and leaves the page as it was. A document without a
+    // file is saved first; where it has none afterwards, nothing is linked.
+
+    /// Links a page, which it asks for, to the style sheet.
+    void LinkPage();
+
+    /// Links every page in a folder, which it asks for, and below it, after a question.
+    void LinkSite();
+
+    /// Embeds the text in a page, which it asks for. From here on the document is the style sheet of that page.
+    void EmbedInPage();
+
+    /// Links or embeds by the choices of a dialog.
+    void LinkStyleSheet();
+    void Embed();
+
+    /// Do nothing.
+    void LinkPageAdvanced() noexcept {}
+    void LinkSiteAdvanced() noexcept {}
+    void EmbedInPageAdvanced() noexcept {}
+
     /// The path of the document; "" for one that was never saved.
     [[nodiscard]] const Text& GetFile() const noexcept { return styleSheet_.File(); }
 
@@ -104,6 +155,18 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     /// Enables what depends on the document itself: saving while it is dirty, an `@import` while it has a file.
     void UpdateMenus();
+
+    /// Switch the commands that act on the front document.
+    void EnableMenus();
+    void DisableMenus();
+
+    // Many documents. The palettes, the menus and the preview belong to the front one; the others only read their
+    // statements, and catch up when they are activated.
+
+    /// The document comes to the front: palettes, menus, preview and status bar become its own.
+    void Activate();
+    void Deactivate() noexcept {}
+    void RegisterWithEditors() noexcept {}
 
     /// Loads a text into the editor and reads its statements.
     void SetText(TextView text);
@@ -277,9 +340,18 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     /// The selector of the statement at the caret, which `GetCurrentSelector` may lag behind.
     [[nodiscard]] Text SelectorAtCaret() const;
     void FinishChange();
-    [[nodiscard]] bool MayOverwrite(TextView path, const Text& present);
+    [[nodiscard]] bool IsInFront() const { return frame_.IsActiveDocument(); }
+    [[nodiscard]] bool MayOverwrite(TextView path, TextView present);
     void SaveInto(const Text& path);
     void SaveIntoPage(const Text& path);
+    void TextIsSaved();
+    [[nodiscard]] RecoveryRecord MakeRecoveryRecord() const;
+    void RememberFileOf(const RecoveryRecord& copy);
+    [[nodiscard]] FileWriter WriterOfPages() const;
+    [[nodiscard]] bool HasFileToLink();
+    bool ChangePage(TextView path, const std::function<void()>& change);
+    void LinkOnePage(TextView path, TextView relValue, TextView extraAttributes);
+    void LinkPages(const Texts& pages);
     void ReplaceWhitespaceBehindStatement(TextView block);
     [[nodiscard]] Text TextForForm(int type, TextView selector) const;
     void InsertAtTop(TextView block);
@@ -295,6 +367,8 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     SupportWarnings& warnings_;
     StatementDialogs& statementDialogs_;
     FileDialogs& fileDialogs_;
+    PageDialogs& pageDialogs_;
+    RecoveryCopies& recovery_;
     SettingsStore& settings_;
     SourceView& textEditor_;
     ktStyleSheet styleSheet_;
@@ -305,11 +379,15 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     std::unique_ptr<DelayTimer> idleTimer_;
     std::unique_ptr<DelayTimer> previewDelay_;
     Text caption_;
-    /// The text of the file as it was read or written last; nothing before that.
-    std::optional<Text> knownFileText_;
+    KnownFile knownFile_;
+    UnsavedCopy unsavedCopy_;
     Encoding fileEncoding_ = Encoding::Utf8;
     int lastSelectedStatement_ = 0;
     bool isDirty_ = false;
+    /// The document is clean because the user doesn't want to save it.
+    bool isGivenUp_ = false;
+    /// The document is clean, and yet its text is in no file.
+    bool isUnwritten_ = false;
     bool needsUpdating_ = false;
     bool selectorsNeedUpdating_ = false;
     bool needsPreviewing_ = false;

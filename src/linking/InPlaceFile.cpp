@@ -60,6 +60,8 @@ void InPlaceFile::Overwrite(std::string_view bytes, std::string_view old) {
         GoBackTo(old);
         throw;
     }
+    // Whether the new content has reached the disk can't be told if one of these fails.
+    isDamaged_ = !isNew_;
     if (Uninterrupted([&] { return ::fsync(descriptor_); }) == -1)
         Throw(errno);
     // Network disks tell here what they refuse. The descriptor is gone in any case.
@@ -67,6 +69,7 @@ void InPlaceFile::Overwrite(std::string_view bytes, std::string_view old) {
     descriptor_ = -1;
     if (closed == -1 && errno != EINTR)
         Throw(errno);
+    isDamaged_ = false;
     isNew_ = false;
 }
 
@@ -109,6 +112,7 @@ void InPlaceFile::GoBackTo(std::string_view old) noexcept {
         CutTo(old.size());
     } catch (const std::system_error&) {
         // The failure that led here is the one to be told.
+        isDamaged_ = !isNew_;
     }
     ::fsync(descriptor_);
 }

@@ -23,6 +23,9 @@ class InPlaceFile {
     /// have held before, unless the disk refuses that too.
     void Overwrite(std::string_view bytes, std::string_view old);
 
+    /// Whether an `Overwrite` failed and has left what may be neither the new content nor the old one.
+    [[nodiscard]] bool IsDamaged() const noexcept { return isDamaged_; }
+
   private:
     void Reserve(std::size_t size);
     void Write(std::string_view bytes);
@@ -32,6 +35,7 @@ class InPlaceFile {
     std::string path_;
     int descriptor_ = -1;
     bool isNew_ = false;
+    bool isDamaged_ = false;
     /// How many bytes at the start of the file are new.
     std::size_t written_ = 0;
 };

@@ -1,5 +1,7 @@
 #include "linking/TextFiles.h"
 
+#include <sys/stat.h>
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -31,6 +33,15 @@ bool FileExists(TextView path) {
     std::error_code ignored;
     const std::filesystem::file_status status = std::filesystem::status(FileNameFromText(path), ignored);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+FileStamp GetFileStamp(TextView path) {
+    struct stat status {};
+    if (HoldsNul(path) || ::stat(FileNameFromText(path).c_str(), &status) == -1)
+        return {};
+    constexpr std::int64_t NanosecondsPerSecond = 1'000'000'000;
+    return {static_cast<std::uintmax_t>(status.st_size),
+            status.st_mtim.tv_sec * NanosecondsPerSecond + status.st_mtim.tv_nsec};
 }
 
 Text ReadTextFile(TextView path) { return ReadDecodedFile(path).text; }

@@ -3,6 +3,7 @@
 #include "text/Encoding.h"
 #include "text/Text.h"
 
+#include <cstdint>
 #include <string>
 #include <system_error>
 
@@ -22,6 +23,17 @@ class FileFailure : public std::system_error {
 
 /// Whether the path names a file that exists: not a folder.
 [[nodiscard]] bool FileExists(TextView path);
+
+/// What a file looks like from outside; all 0 for one that doesn't exist.
+struct FileStamp {
+    std::uintmax_t size = 0;
+    /// When it was changed last: nanoseconds since 1970 began, in universal time.
+    std::int64_t changed = 0;
+
+    friend bool operator==(const FileStamp&, const FileStamp&) = default;
+};
+
+[[nodiscard]] FileStamp GetFileStamp(TextView path);
 
 /// The text of a file; "" if it doesn't exist or is empty. Throws `FileFailure` for one that can't be read.
 [[nodiscard]] Text ReadTextFile(TextView path);

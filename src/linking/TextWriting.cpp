@@ -77,13 +77,18 @@ void Overwrite(InPlaceFile& file, std::string_view bytes, std::string_view old, 
     try {
         file.Overwrite(bytes, old);
     } catch (const std::system_error& error) {
+        if (observer != nullptr && !file.IsDamaged())
+            observer->AfterFailedWrite(path);
         throw FileFailure(error.code(), path);
     }
     if (observer != nullptr)
         observer->AfterWrite(path, bytes);
 }
 
-void WriteExisting(TextView path, const std::string& name, TextView text, WriteObserver* observer) {
+/// Makes the bytes of a file of those that it holds.
+using MakeBytes = std::function<std::string(const std::string& old)>;
+
+void WriteExisting(TextView path, const std::string& name, const MakeBytes& makeBytes, WriteObserver* observer) {
     std::optional<InPlaceFile> file;
     try {
         file.emplace(name, InPlaceFile::Opening::Existing);
@@ -91,21 +96,40 @@ void WriteExisting(TextView path, const std::string& name, TextView text, WriteO
         throw FileFailure(SaysReadOnly(error.code()) ? WriteFault::ReadOnly : error.code(), path);
     }
     const std::string old = ReadFileBytes(path);
-    const std::string bytes = BytesFor(text, DecodeBytes(old).encoding, path);
+    const std::string bytes = makeBytes(old);
     Announce(observer, path, bytes);
     Overwrite(*file, bytes, old, path, observer);
 }
 
-void WriteNew(TextView path, const std::string& name, TextView text, WriteObserver* observer) {
-    const std::string bytes = BytesFor(text, Encoding::Utf8, path);
+void WriteNew(TextView path, const std::string& name, const MakeBytes& makeBytes, WriteObserver* observer) {
+    const std::string bytes = makeBytes({});
     Announce(observer, path, bytes);
     std::optional<InPlaceFile> file;
     try {
         file.emplace(name, InPlaceFile::Opening::Creating);
     } catch (const std::system_error& error) {
+        if (observer != nullptr)
+            observer->AfterFailedWrite(path);
         throw FileCreationFailure(error.code(), path);
     }
     Overwrite(*file, bytes, {}, path, observer);
+}
+
+void WriteFile(TextView path, const MakeBytes& makeBytes, WriteObserver* observer) {
+    if (path.find(u'\0') != TextView::npos)
+        throw FileCreationFailure(std::make_error_code(std::errc::invalid_argument), path);
+    const std::string name = FileNameFromText(path);
+    const TargetState state = Examine(name);
+    if (state.target == Target::Folder)
+        throw FileCreationFailure(std::make_error_code(std::errc::is_a_directory), path);
+    if (state.isReadOnly)
+        throw FileFailure(WriteFault::ReadOnly, path);
+    if (state.target == Target::OtherFile)
+        throw FileFailure(WriteFault::NoOrdinaryFile, path);
+    if (state.target == Target::OrdinaryFile)
+        WriteExisting(path, name, makeBytes, observer);
+    else
+        WriteNew(path, name, makeBytes, observer);
 }
 
 Text MessageFor(const FileFailure& failure) {
@@ -123,20 +147,15 @@ std::error_code make_error_code(WriteFault fault) noexcept {
 }
 
 void WriteTextFileOrThrow(TextView path, TextView text, WriteObserver* observer) {
-    if (path.find(u'\0') != TextView::npos)
-        throw FileCreationFailure(std::make_error_code(std::errc::invalid_argument), path);
-    const std::string name = FileNameFromText(path);
-    const TargetState state = Examine(name);
-    if (state.target == Target::Folder)
-        throw FileCreationFailure(std::make_error_code(std::errc::is_a_directory), path);
-    if (state.isReadOnly)
-        throw FileFailure(WriteFault::ReadOnly, path);
-    if (state.target == Target::OtherFile)
-        throw FileFailure(WriteFault::NoOrdinaryFile, path);
-    if (state.target == Target::OrdinaryFile)
-        WriteExisting(path, name, text, observer);
-    else
-        WriteNew(path, name, text, observer);
+    // The encoding of no bytes is UTF-8.
+    WriteFile(
+        path, [&](const std::string& old) { return BytesFor(text, DecodeBytes(old).encoding, path); }, observer);
+}
+
+void WriteBytesOrThrow(TextView path, std::string_view bytes) {
+    CheckLimitOfFileSizes(bytes.size(), path);
+    WriteFile(
+        path, [&](const std::string&) { return std::string(bytes); }, nullptr);
 }
 
 void WriteTextFile(TextView path, TextView text, WriteObserver* observer) {

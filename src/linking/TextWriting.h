@@ -47,8 +47,8 @@ class WriteMessages {
     virtual void ShowWriteFailure(TextView message) = 0;
 };
 
-/// Is told of a write before it starts and after it succeeded. A write that fails has no second call, one that can't
-/// even start has none.
+/// Is told of a write before it starts, and how it ended. A write that can't even start has no call; one that fails and
+/// leaves the file neither as it was nor as it was to be has no second one.
 class WriteObserver {
   public:
     WriteObserver() = default;
@@ -60,6 +60,8 @@ class WriteObserver {
     virtual void BeforeWrite(TextView path, std::string_view bytes) = 0;
     /// `bytes` are on the disk.
     virtual void AfterWrite(TextView path, std::string_view bytes) = 0;
+    /// The file is as it was before.
+    virtual void AfterFailedWrite(TextView path) = 0;
 };
 
 /// What writes a text into the file with a path.
@@ -68,6 +70,9 @@ using FileWriter = std::function<void(TextView path, TextView text)>;
 /// Writes `text`. Throws `FileFailure` for each failure, `FileCreationFailure` where there is no file afterwards
 /// because it can't be made.
 void WriteTextFileOrThrow(TextView path, TextView text, WriteObserver* observer = nullptr);
+
+/// As `WriteTextFileOrThrow`, with bytes, whatever the file's encoding is.
+void WriteBytesOrThrow(TextView path, std::string_view bytes);
 
 /// Writes `text`. A file that can't be written stays as it is, without a word.
 void WriteTextFile(TextView path, TextView text, WriteObserver* observer = nullptr);

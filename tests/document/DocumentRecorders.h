@@ -11,6 +11,8 @@
 #include <gtest/gtest.h>
 #include <algorithm>
 #include <chrono>
+#include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,8 +27,12 @@ class RecordingFrame final : public DocumentFrame {
   public:
     explicit RecordingFrame(Calls& calls) : calls_(calls) {}
 
+    [[nodiscard]] bool IsActiveDocument() const override { return isInFront; }
+    void StyleSheetWindowActivated() override { calls_.emplace_back("StyleSheetWindowActivated"); }
+    void StyleSheetWindowClosed() override { calls_.emplace_back("StyleSheetWindowClosed"); }
+    void EnableDocumentCommands(bool enabled) override { areCommandsEnabled = enabled; }
     [[nodiscard]] bool IsDocumentInFront() const override { return true; }
-    void UpdateMenuItem(TextView, bool) override {}
+    void UpdateMenuItem(TextView key, bool enabled) override { isEnabled[Text(key)] = enabled; }
     void UpdateMenus() override { ++menuUpdates; }
     void SetStatusBarText(TextView pane, TextView text) override {
         // The caret's place is told with every move.
@@ -42,7 +48,10 @@ class RecordingFrame final : public DocumentFrame {
     void SetCaption(TextView) override {}
     void BringDocumentToFront() override { calls_.emplace_back("BringDocumentToFront"); }
 
+    bool isInFront = true;
+    bool areCommandsEnabled = false;
     int menuUpdates = 0;
+    std::map<Text, bool> isEnabled;
 
   private:
     Calls& calls_;
@@ -150,6 +159,65 @@ class ScriptedFiles final : public FileDialogs {
     Calls& calls_;
 };
 
+/// Questions about pages that get prepared answers.
+class ScriptedPages final : public PageDialogs {
+  public:
+    explicit ScriptedPages(Calls& calls) : calls_(calls) {}
+
+    [[nodiscard]] std::optional<Text> AskPage(TextView title) override {
+        calls_.push_back("AskPage " + Utf8FromText(title));
+        return page;
+    }
+    [[nodiscard]] std::optional<Text> AskFolder(TextView prompt) override {
+        calls_.push_back("AskFolder " + Utf8FromText(prompt));
+        return folder;
+    }
+    [[nodiscard]] bool Confirm(TextView question) override {
+        calls_.push_back("Confirm " + Utf8FromText(question));
+        return isConfirmed;
+    }
+    [[nodiscard]] std::optional<PageOptions> AskLinkOptions() override { return options; }
+    [[nodiscard]] std::optional<PageOptions> AskEmbedOptions() override { return options; }
+    void ShowBusy(bool isBusy) override { calls_.emplace_back(isBusy ? "Busy" : "NotBusy"); }
+    [[nodiscard]] std::unique_ptr<PageProgress> ShowProgress(int pageCount) override {
+        calls_.push_back("ShowProgress " + std::to_string(pageCount));
+        return std::make_unique<CountedProgress>(pagesUntilCancel);
+    }
+
+    std::optional<Text> page;
+    std::optional<Text> folder;
+    std::optional<PageOptions> options;
+    bool isConfirmed = true;
+    int pagesUntilCancel = 1'000'000;
+
+  private:
+    class CountedProgress final : public PageProgress {
+      public:
+        explicit CountedProgress(int pages) : pages_(pages) {}
+        [[nodiscard]] bool GoOn(int count) override { return count < pages_; }
+
+      private:
+        int pages_;
+    };
+
+    Calls& calls_;
+};
+
+/// Recovery copies that are kept in memory, at once.
+class MemoryRecovery final : public RecoveryCopies {
+  public:
+    [[nodiscard]] std::string MakeName() override { return std::to_string(++nameCount_); }
+    void KeepSoon(const std::string& name, const RecoveryRecord& record) override { copies[name] = record; }
+    void Keep(const std::string& name, const RecoveryRecord& record) override { copies[name] = record; }
+    void Drop(const std::string& name) override { copies.erase(name); }
+    [[nodiscard]] WriteObserver* Journal() override { return nullptr; }
+
+    std::map<std::string, RecoveryRecord> copies;
+
+  private:
+    int nameCount_ = 0;
+};
+
 class TextClipboard final : public Clipboard {
   public:
     [[nodiscard]] bool HasText() const override { return !text_.empty(); }
@@ -184,9 +252,17 @@ inline MarkedText ReadMarks(TextView drawn) {
 
 class RecordedDocument {
   public:
-    RecordedDocument()
-        : window({view, frame, statements, properties, preview, preview, dialogs, files, dialogs, clipboard, settings,
-                  clock}) {}
+    RecordedDocument() : RecordedDocument(std::make_unique<MemoryRecovery>()) {}
+
+    explicit RecordedDocument(std::unique_ptr<RecoveryCopies> copies)
+        : recovery(std::move(copies)),
+          window({view, frame, statements, properties, preview, preview, dialogs, files, pages, *recovery, dialogs,
+                  clipboard, settings, clock}) {}
+
+    /// The kept recovery copies, of a document that has them in memory.
+    [[nodiscard]] std::map<std::string, RecoveryRecord>& Copies() {
+        return dynamic_cast<MemoryRecovery&>(*recovery).copies;
+    }
 
     /// Loads a text that has its caret drawn in it, and lets all timers run down.
     void Load(TextView drawn) {
@@ -256,6 +332,8 @@ class RecordedDocument {
     RecordingPreview preview{calls};
     ScriptedDialogs dialogs{calls};
     ScriptedFiles files{calls};
+    ScriptedPages pages{calls};
+    std::unique_ptr<RecoveryCopies> recovery;
     TextClipboard clipboard;
     MemorySettingsStore settings;
     StillClock clock;

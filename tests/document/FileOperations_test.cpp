@@ -1,47 +1,14 @@
-#include "DocumentRecorders.h"
-#include "linking/TextFiles.h"
+#include "DocumentFiles.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-
 namespace tintora::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-class FileOperationsTest : public ::testing::Test {
-  protected:
-    FileOperationsTest() {
-        std::string name = (fs::temp_directory_path() / "tintora-files-XXXXXX").string();
-        folder_ = ::mkdtemp(name.data());
-    }
-    ~FileOperationsTest() override { fs::remove_all(folder_); }
-
-    [[nodiscard]] Text PathOf(const char* name) const { return TextFromFileName((folder_ / name).native()); }
-
-    Text MakeFile(const char* name, std::string_view bytes) const {
-        std::ofstream(folder_ / name, std::ios::binary) << bytes;
-        return PathOf(name);
-    }
-
-    [[nodiscard]] std::string BytesOf(const char* name) const { return ReadFileBytes(PathOf(name)); }
-
-    /// Opens a file and forgets the calls.
-    void Open(TextView path) {
-        document_.window.OpenStyleSheet(path);
-        document_.Settle();
-    }
-
-    void Change() { document_.window.InsertText(u"x", 0); }
-
-    fs::path folder_;
-    RecordedDocument document_;
-    ktStyleSheetWindow& window_ = document_.window;
-};
+using FileOperationsTest = DocumentFilesTest;
 
 TEST_F(FileOperationsTest, AnOpenedFileIsCleanAndHasItsNameForACaption) {
     const Text path = MakeFile("a.css", "h1 {}");
@@ -142,7 +109,7 @@ TEST_F(FileOperationsTest, SavingUnderAnotherNameOverwritesAPage) {
 TEST_F(FileOperationsTest, AReadOnlyFileIsToldAndOnlySavingLeavesTheDocumentDirty) {
     Open(MakeFile("a.css", "h1 {}"));
     Change();
-    fs::permissions(folder_ / "a.css", fs::perms::owner_read);
+    fs::permissions(Folder() / "a.css", fs::perms::owner_read);
     document_.calls.clear();
     window_.Save();
     EXPECT_EQ(document_.TakeCalls(), Calls{"[The file can't be saved because it is a read only file.]"});
@@ -226,7 +193,7 @@ TEST_F(FileOperationsTest, ALinkedStyleSheetIsOpenedByItsPage) {
 }
 
 TEST_F(FileOperationsTest, AFileThatCannotBeReadFailsAndAMissingOneIsEmpty) {
-    ASSERT_EQ(::mknod((folder_ / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    ASSERT_EQ(::mknod((Folder() / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
     EXPECT_THROW(window_.OpenStyleSheet(PathOf("socket")), FileFailure);
     window_.OpenStyleSheet(PathOf("missing.css"));
     EXPECT_EQ(window_.GetText(), u"");

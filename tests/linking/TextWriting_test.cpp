@@ -68,6 +68,7 @@ class RecordingObserver : public WriteObserver {
     void AfterWrite(TextView path, std::string_view bytes) override {
         calls.push_back("after " + std::string(bytes) + " in " + ContentOf(path));
     }
+    void AfterFailedWrite(TextView path) override { calls.push_back("failed, " + ContentOf(path)); }
     std::vector<std::string> calls;
 
   private:
@@ -114,6 +115,7 @@ class FailingObserver final : public WriteObserver {
   public:
     void BeforeWrite(TextView, std::string_view) override { throw std::runtime_error("no copy"); }
     void AfterWrite(TextView, std::string_view) override {}
+    void AfterFailedWrite(TextView) override {}
 };
 
 void Chmod(TextView path, mode_t mode) { ASSERT_EQ(::chmod(FileNameFromText(path).c_str(), mode), 0); }
@@ -305,7 +307,8 @@ TEST(TextWriting, AWriteThatTheDiskRefusesHalfwayLeavesTheOldText) {
             FileSizeLimit limit;
             LimitingObserver observer(limit, 2000);
             WriteExpecting(path, Text(size, u'n'), {u"a.css can't be saved: File too large."}, &observer);
-            EXPECT_EQ(observer.calls.size(), 1U);
+            ASSERT_EQ(observer.calls.size(), 2U);
+            EXPECT_EQ(observer.calls[1], "failed, " + old);
         }
         EXPECT_EQ(ReadFileBytes(path).size(), length) << size;
         EXPECT_EQ(ReadFileBytes(path), old) << size;
@@ -321,6 +324,18 @@ TEST(TextWriting, ANewFileThatTheDiskRefusesIsNotLeft) {
                        &observer);
     }
     EXPECT_FALSE(FileExists(folder.Path() + u"/new.css"));
+}
+
+TEST(TextWriting, BytesAreWrittenAsTheyAre) {
+    const TemporaryFolder folder;
+    for (const std::string_view old : {"plain", "caf\xE9", "\xC3\xA9"}) {
+        const Text path = folder.Write("a.css", old);
+        WriteBytesOrThrow(path, "\xFF\xC3\xA9\0"sv);
+        EXPECT_EQ(ReadFileBytes(path), "\xFF\xC3\xA9\0"sv);
+    }
+    WriteBytesOrThrow(folder.Path() + u"/new.css", "\xFF");
+    EXPECT_EQ(ReadFileBytes(folder.Path() + u"/new.css"), "\xFF");
+    EXPECT_THROW(WriteBytesOrThrow(folder.Path(), "a"), FileFailure);
 }
 
 TEST(TextWriting, WhatHasBeenReadIsWrittenByteForByte) {
