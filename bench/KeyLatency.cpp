@@ -2,6 +2,7 @@
 // style sheet of 32,000 characters. Prints milliseconds.
 
 #include "Sheets.h"
+#include "document/RecoveryCopies.h"
 #include "settings/MemorySettingsStore.h"
 #include "shell/qt/Application.h"
 #include "shell/qt/StyleSheetPane.h"
@@ -76,7 +77,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const Application application(argc, argv);
     MemorySettingsStore store;
-    frmMain window(store);
+    NoRecoveryCopies recovery;
+    frmMain window(store, recovery);
     window.LoadNewDoc();
     window.resize(1280, 800);
     window.show();

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
+#include <deque>
 #include <memory>
 
 namespace tintora::test {
@@ -17,8 +18,12 @@ struct Told {
     QStringList messages;
     QStringList questions;
     FileDialogs::SaveAnswer saveAnswer = FileDialogs::SaveAnswer::No;
+    /// Answers of the questions to come, before `saveAnswer` holds.
+    std::deque<FileDialogs::SaveAnswer> saveAnswers;
     FileDialogs::ChangedFileAnswer changedFileAnswer = FileDialogs::ChangedFileAnswer::Cancel;
     std::optional<Text> savePath;
+    std::optional<Text> page;
+    UserMessages::RecoveryAnswer recoveryAnswer = UserMessages::RecoveryAnswer::Later;
 };
 
 class RecordedMessages final : public UserMessages {
@@ -33,12 +38,37 @@ class RecordedMessages final : public UserMessages {
     }
     SaveAnswer AskSaveChanges(TextView, TextView question) override {
         told_.questions.append(ToQString(question));
-        return told_.saveAnswer;
+        if (told_.saveAnswers.empty())
+            return told_.saveAnswer;
+        const SaveAnswer answer = told_.saveAnswers.front();
+        told_.saveAnswers.pop_front();
+        return answer;
     }
     ChangedFileAnswer AskAboutChangedFile(TextView path) override {
         told_.questions.append("changed: " + ToQString(path));
         return told_.changedFileAnswer;
     }
+
+    void AskAboutCopies(const std::vector<LeftCopy>& copies,
+                        const std::function<void(std::size_t, RecoveryAnswer)>& handle) override {
+        for (std::size_t index = 0; index < copies.size(); ++index) {
+            told_.questions.append("recover: " + ToQString(copies[index].record.caption));
+            handle(index, told_.recoveryAnswer);
+        }
+    }
+    std::optional<Text> AskPage(TextView title) override {
+        told_.questions.append(ToQString(title));
+        return told_.page;
+    }
+    std::optional<Text> AskFolder(TextView prompt) override {
+        told_.questions.append(ToQString(prompt));
+        return std::nullopt;
+    }
+    bool Confirm(TextView) override { return false; }
+    std::optional<PageOptions> AskLinkOptions() override { return std::nullopt; }
+    std::optional<PageOptions> AskEmbedOptions() override { return std::nullopt; }
+    void ShowBusy(bool) override {}
+    std::unique_ptr<PageProgress> ShowProgress(int) override { return nullptr; }
 
   private:
     Told& told_;
@@ -49,7 +79,7 @@ class WindowTest : public testing::Test {
   protected:
     WindowTest() { MakeWindow(); }
 
-    void MakeWindow() { window = std::make_unique<frmMain>(store, std::make_unique<RecordedMessages>(told)); }
+    void MakeWindow() { window = std::make_unique<frmMain>(store, recovery, std::make_unique<RecordedMessages>(told)); }
 
     /// Writes a file into the test's folder, and gives its path.
     Text MakeFile(const char* name, const QByteArray& bytes) {
@@ -68,6 +98,7 @@ class WindowTest : public testing::Test {
 
     QTemporaryDir folder;
     MemorySettingsStore store;
+    RecoveryFolder recovery{folder.filePath(QStringLiteral("recovery")).toStdString()};
     Told told;
     std::unique_ptr<frmMain> window;
 };

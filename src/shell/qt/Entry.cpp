@@ -1,5 +1,6 @@
 #include "shell/qt/Entry.h"
 
+#include "document/RecoveryFolder.h"
 #include "language/ValueLists.h"
 #include "settings/Settings.h"
 #include "settings/qt/IniSettingsStore.h"
@@ -11,6 +12,9 @@
 #include "shell/qt/frmMain.h"
 #include "text/Encoding.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTimer>
 #include <cstdio>
 
 namespace tintora {
@@ -35,6 +39,13 @@ void PrintHelp() {
         "  --version  prints the version");
 }
 
+/// Below the folder for what a program keeps from one run to the next.
+std::string RecoveryFolderPath() {
+    const QString home = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString base = home.isEmpty() ? QDir::homePath() + QStringLiteral("/.local/state") : home;
+    return QFile::encodeName(base + QStringLiteral("/tintora/recovery")).toStdString();
+}
+
 /// There is no wizard for the first run: it begins with a new style sheet.
 void CompleteSetup(SettingsStore& store, frmMain& window, TextView file) {
     Settings settings(store);
@@ -47,7 +58,9 @@ void CompleteSetup(SettingsStore& store, frmMain& window, TextView file) {
 
 int RunFirstInstance(Application& application, SettingsStore& store, TextView file) {
     SetUpValueLists();
-    frmMain window(store);
+    RecoveryFolder recovery(RecoveryFolderPath());
+    const std::vector<LeftCopy> left = recovery.ReadLeftCopies();
+    frmMain window(store, recovery);
     application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
                                    [&](const QString& what) { window.ReportFault(what); });
     window.LoadStep(file);
@@ -58,6 +71,8 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
             window.OpenOneStyleSheet(path);
         window.BringToFront();
     });
+    // The loop has to run before a question can be asked.
+    QTimer::singleShot(0, &window, [&] { window.OfferLeftCopies(left); });
     const int status = Application::exec();
     application.SetFailureHandlers({}, {});
     return status;

@@ -1,5 +1,6 @@
 #include "shell/qt/StyleSheetPane.h"
 
+#include "shell/qt/NoticeBar.h"
 #include "text/qt/QtText.h"
 
 #include <QVBoxLayout>
@@ -18,18 +19,39 @@ bool IsBuilt(const ContextMenuEntry& entry) {
 
 }  // namespace
 
-StyleSheetPane::StyleSheetPane(const QString& caption, EditorFrame& frame, FileDialogs& dialogs,
-                               SettingsStore& settings)
+StyleSheetPane::StyleSheetPane(const QString& caption, PaneFrame& frame, UserMessages& messages,
+                               RecoveryCopies& recovery, SettingsStore& settings)
     : frame_(frame),
+      notice_(new NoticeBar(this)),
       dialogs_(*this, IsBuilt),
       view_(this),
-      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, dialogs, dialogs_, clipboard_, settings,
-               clock_}) {
+      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, messages, messages, recovery, dialogs_,
+               clipboard_, settings, clock_}) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(notice_);
     layout->addWidget(&view_);
     setFocusProxy(&view_);
+    SetUpNotice();
     window_.SetCaption(ToText(caption));
+}
+
+void StyleSheetPane::SetUpNotice() {
+    notice_->AddButton(QStringLiteral("Reload"), QStringLiteral("Loads the file; changes that aren't saved are lost"),
+                       [this] { window_.Reload(); });
+    notice_->AddButton(QStringLiteral("Keep This Text"),
+                       QStringLiteral("Goes on with the text that is here; saving will ask"), [this] {
+                           window_.IgnoreFileChange();
+                           view_.setFocus();
+                       });
+}
+
+void StyleSheetPane::LookAfterFile() {
+    if (window_.HasFileChanged())
+        notice_->ShowNotice(QStringLiteral("%1 has changed on disk.").arg(Caption()));
+    else
+        notice_->hide();
 }
 
 StyleSheetPane::~StyleSheetPane() = default;
@@ -39,6 +61,12 @@ QString StyleSheetPane::Caption() const { return ToQString(window_.Caption()); }
 QString StyleSheetPane::FormatName() const {
     return (window_.FileEncoding() == Encoding::Utf8 ? QStringLiteral("UTF-8") : QStringLiteral("windows-1252")) +
            QStringLiteral("   ") + view_.LineEndName();
+}
+
+void StyleSheetPane::DirtyChanged(bool isDirty) {
+    if (!isDirty)
+        notice_->hide();
+    Q_EMIT CaptionChanged();
 }
 
 void StyleSheetPane::StatementsCached() {

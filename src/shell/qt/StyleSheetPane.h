@@ -6,10 +6,23 @@
 #include "editor/qt/QtClipboard.h"
 #include "editor/qt/ScintillaSourceView.h"
 #include "shell/qt/UnbuiltPalettes.h"
+#include "shell/qt/UserMessages.h"
 
 #include <QWidget>
 
 namespace tintora {
+
+class NoticeBar;
+class StyleSheetPane;
+
+/// The main window, as the panes see it.
+class PaneFrame : public EditorFrame {
+  public:
+    [[nodiscard]] virtual bool IsActivePane(const StyleSheetPane& pane) const = 0;
+    virtual void WindowActivated(StyleSheetPane& pane) = 0;
+    virtual void WindowClosed(StyleSheetPane& pane) = 0;
+    virtual void EnableDocumentCommands(bool enabled) = 0;
+};
 
 /// The pane of one open style sheet: its text in the source editor, and the document window behind it.
 class StyleSheetPane : public QWidget, private DocumentFrame, private StatementsPalette {
@@ -17,7 +30,8 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
 
   public:
     /// All arguments must outlive the pane.
-    StyleSheetPane(const QString& caption, EditorFrame& frame, FileDialogs& dialogs, SettingsStore& settings);
+    StyleSheetPane(const QString& caption, PaneFrame& frame, UserMessages& messages, RecoveryCopies& recovery,
+                   SettingsStore& settings);
     ~StyleSheetPane() override;
 
     /// Opens a style sheet, or the one that is embedded in a page. Throws `FileFailure` for a file that can't be read,
@@ -37,6 +51,9 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     /// The encoding of the file and the line end of the text, for the status bar.
     [[nodiscard]] QString FormatName() const;
 
+    /// Offers to load the file again if another program has changed it.
+    void LookAfterFile();
+
     /// Selects `length` code units from the 0-based offset `start`, scrolls there, and gives the editor the focus.
     void SelectText(int start, int length);
 
@@ -48,6 +65,10 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
 
   private:
     // DocumentFrame
+    [[nodiscard]] bool IsActiveDocument() const override { return frame_.IsActivePane(*this); }
+    void StyleSheetWindowActivated() override { frame_.WindowActivated(*this); }
+    void StyleSheetWindowClosed() override { frame_.WindowClosed(*this); }
+    void EnableDocumentCommands(bool enabled) override { frame_.EnableDocumentCommands(enabled); }
     [[nodiscard]] bool IsDocumentInFront() const override { return frame_.IsDocumentInFront(); }
     void UpdateMenuItem(TextView key, bool enabled) override { frame_.UpdateMenuItem(key, enabled); }
     void UpdateMenus() override { frame_.UpdateMenus(); }
@@ -55,7 +76,7 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void EnableCorePropertiesToolbar(bool) override {}
     void SetUpCorePropertiesToolbar(TextView) override {}
     void StatementsCached() override;
-    void DirtyChanged(bool) override { Q_EMIT CaptionChanged(); }
+    void DirtyChanged(bool isDirty) override;
     void SetCaption(TextView) override { Q_EMIT CaptionChanged(); }
     void BringDocumentToFront() override { view_.setFocus(); }
 
@@ -64,7 +85,10 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void UpdateSelectors(const Texts&, TextView) override { Q_EMIT StatementsChanged(); }
     void SelectStatement(int number) override { Q_EMIT CurrentStatementChanged(number); }
 
-    EditorFrame& frame_;
+    void SetUpNotice();
+
+    PaneFrame& frame_;
+    NoticeBar* notice_;
     QtClock clock_;
     QtClipboard clipboard_;
     EditorDialogBoxes dialogs_;

@@ -1,12 +1,15 @@
 #include "shell/qt/UserMessages.h"
 
 #include "linking/Paths.h"
+#include "shell/qt/RecoveryDialog.h"
 #include "text/qt/QtText.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QWidget>
 
@@ -15,6 +18,28 @@ namespace tintora {
 namespace {
 
 constexpr auto SaveFilter = "Style Sheets (*.css);;Text (*.txt);;All Files (*)";
+constexpr auto PageFilter = "HTML Documents (*.html *.htm);;Text (*.txt);;All Files (*)";
+
+/// A box that shows how many pages are done, and can be cancelled.
+class ProgressBox final : public PageProgress {
+  public:
+    ProgressBox(QWidget& window, int pageCount)
+        : box_(QStringLiteral("Linking %1 pages…").arg(pageCount), QStringLiteral("Cancel"), 0, pageCount, &window) {
+        box_.setWindowTitle(QStringLiteral("Tintora"));
+        box_.setWindowModality(Qt::WindowModal);
+        box_.setMinimumDuration(0);
+        box_.setValue(0);
+    }
+
+    /// Showing the value lets the box hear of a click.
+    [[nodiscard]] bool GoOn(int count) override {
+        box_.setValue(count);
+        return !box_.wasCanceled();
+    }
+
+  private:
+    QProgressDialog box_;
+};
 
 }  // namespace
 
@@ -61,6 +86,44 @@ FileDialogs::ChangedFileAnswer MessageBoxes::AskAboutChangedFile(TextView path) 
     if (box.clickedButton() == overwrite)
         return ChangedFileAnswer::Overwrite;
     return box.clickedButton() == reload ? ChangedFileAnswer::Reload : ChangedFileAnswer::Cancel;
+}
+
+void MessageBoxes::AskAboutCopies(const std::vector<LeftCopy>& copies,
+                                  const std::function<void(std::size_t, RecoveryAnswer)>& handle) {
+    RecoveryDialog(copies, handle, &window_).exec();
+}
+
+std::optional<Text> MessageBoxes::AskPage(TextView title) {
+    const QString chosen =
+        QFileDialog::getOpenFileName(&window_, ToQString(title), pageFolder_, QString::fromUtf8(PageFilter));
+    if (chosen.isEmpty())
+        return std::nullopt;
+    pageFolder_ = QFileInfo(chosen).absolutePath();
+    return ToText(chosen);
+}
+
+std::optional<Text> MessageBoxes::AskFolder(TextView prompt) {
+    const QString chosen = QFileDialog::getExistingDirectory(&window_, ToQString(prompt), pageFolder_);
+    if (chosen.isEmpty())
+        return std::nullopt;
+    pageFolder_ = chosen;
+    return ToText(chosen);
+}
+
+bool MessageBoxes::Confirm(TextView question) {
+    return QMessageBox::question(&window_, QStringLiteral("Tintora"), ToQString(question),
+                                 QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+void MessageBoxes::ShowBusy(bool isBusy) {
+    if (isBusy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+std::unique_ptr<PageProgress> MessageBoxes::ShowProgress(int pageCount) {
+    return std::make_unique<ProgressBox>(window_, pageCount);
 }
 
 }  // namespace tintora

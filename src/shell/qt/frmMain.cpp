@@ -1,7 +1,5 @@
 #include "shell/qt/frmMain.h"
 
-#include "linking/HtmlStyle.h"
-#include "linking/TextFiles.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/FormStrings.h"
 #include "shell/qt/StatementList.h"
@@ -12,12 +10,8 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMimeData>
@@ -40,12 +34,11 @@ int Pixels(float twips) {
     return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -Most, Most)));
 }
 
-constexpr auto OpenFilter = "Style Sheets (*.css);;HTML Files (*.htm *.html);;Text (*.txt);;All Files (*)";
-
 }  // namespace
 
-frmMain::frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages)
+frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages)
     : store_(store),
+      recovery_(recovery),
       settings_(store),
       messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
       documents_(new QTabWidget(this)),
@@ -58,6 +51,7 @@ frmMain::frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages)
     SetUpPanes();
     SetUpStatusBar();
     SetUpActions();
+    EnableDocumentCommands(false);
     // Whether there is something to paste may change without anything happening here.
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
         if (StyleSheetPane* const pane = ActiveDocument())
@@ -125,65 +119,6 @@ void frmMain::SaveLocationOnClose() {
     settings_.SaveMaximized(isMaximized());
 }
 
-StyleSheetPane* frmMain::ActiveDocument() const { return qobject_cast<StyleSheetPane*>(documents_->currentWidget()); }
-
-void frmMain::AskForStyleSheet() {
-    const QString folder = ActiveDocument() == nullptr ? QDir::currentPath()
-                                                       : QFileInfo(ToQString(ActiveDocument()->File())).absolutePath();
-    const QString chosen =
-        QFileDialog::getOpenFileName(this, QStringLiteral("Open"), folder, QString::fromUtf8(OpenFilter));
-    if (!chosen.isEmpty())
-        OpenOneStyleSheet(ToText(chosen));
-}
-
-void frmMain::OpenOneStyleSheet(TextView path) {
-    if (!FileExists(path))
-        return;
-    const auto open = std::find_if(openDocuments_.begin(), openDocuments_.end(),
-                                   [=](const StyleSheetPane* pane) { return pane->File() == path; });
-    if (open != openDocuments_.end()) {
-        documents_->setCurrentWidget(*open);
-        return;
-    }
-    StyleSheetPane* const pane = OpenNewStyleSheet();
-    try {
-        LoadInto(*pane, path);
-    } catch (const FileFailure& failure) {
-        RemovePane(pane);
-        messages_->Tell(QStringLiteral("\"%1\" can't be opened.").arg(ToQString(path)),
-                        QString::fromStdString(failure.code().message()) + QLatin1Char('.'));
-    } catch (const UnclosedElementFailure&) {
-        RemovePane(pane);
-        messages_->Tell(QStringLiteral("The style sheet in \"%1\" can't be opened.").arg(ToQString(path)),
-                        QStringLiteral("The style element of the page doesn't end."));
-    }
-}
-
-void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
-    try {
-        pane.OpenStyleSheet(path);
-    } catch (const OverflowFailure&) {
-        // The text is in the editor, and only its statements are missing.
-        UpdateCaption(&pane);
-        throw;
-    }
-    UpdateCaption(&pane);
-    format_->setText(pane.FormatName());
-}
-
-StyleSheetPane* frmMain::OpenNewStyleSheet() {
-    ++newDocumentCount_;
-    auto* const pane =
-        new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this, *messages_, store_);
-    connect(pane, &StyleSheetPane::CaptionChanged, this, [this, pane] { UpdateCaption(pane); });
-    connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
-    openDocuments_.insert(openDocuments_.begin(), pane);
-    documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
-    UpdateCaption(pane);
-    pane->setFocus();
-    return pane;
-}
-
 void frmMain::SetUpStatusBar() {
     caretPosition_->setObjectName(QStringLiteral("CaretPosition"));
     constexpr int Gap = 6;
@@ -204,72 +139,6 @@ void frmMain::SetStatusBarText(TextView pane, TextView text) {
 void frmMain::UpdateMenuItem(TextView key, bool enabled) {
     if (auto* const action = findChild<QAction*>(ToQString(key)))
         action->setEnabled(enabled);
-}
-
-void frmMain::LoadNewDoc() { OpenNewStyleSheet(); }
-
-void frmMain::PaneActivated() {
-    StyleSheetPane* const pane = ActiveDocument();
-    const auto place = std::find(openDocuments_.begin(), openDocuments_.end(), pane);
-    if (place != openDocuments_.end())
-        std::rotate(openDocuments_.begin(), place, place + 1);
-    statements_->Follow(pane);
-    UpdateCaption(pane);
-    format_->setText(pane == nullptr ? QString() : pane->FormatName());
-    if (pane == nullptr) {
-        caretPosition_->clear();
-    } else {
-        pane->CSSEditor().UpdateStatusBar();
-        pane->CSSEditor().UpdateMenu();
-    }
-}
-
-void frmMain::UpdateCaption(const StyleSheetPane* pane) {
-    if (pane != nullptr) {
-        const int index = documents_->indexOf(pane);
-        documents_->setTabText(index, pane->Caption() + (pane->IsDirty() ? QStringLiteral("*") : QString()));
-        documents_->setTabToolTip(index, ToQString(pane->File()));
-    }
-    const StyleSheetPane* const front = ActiveDocument();
-    setWindowTitle(front == nullptr ? QStringLiteral("Tintora") : front->Caption() + QStringLiteral("[*] — Tintora"));
-    setWindowModified(front != nullptr && front->IsDirty());
-}
-
-void frmMain::SaveStyleSheet() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().Save();
-}
-
-void frmMain::SaveStyleSheetAs() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().SaveAs();
-}
-
-void frmMain::SaveAllStyleSheets() {
-    for (StyleSheetPane* const pane : std::vector(openDocuments_)) {
-        if (pane->IsDirty())
-            pane->Window().Save();
-    }
-}
-
-void frmMain::UpdateMenus() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().UpdateMenus();
-}
-
-void frmMain::ClosePane(int index) {
-    auto* const pane = qobject_cast<StyleSheetPane*>(documents_->widget(index));
-    if (pane != nullptr && pane->Window().DoHide())
-        RemovePane(pane);
-}
-
-void frmMain::RemovePane(StyleSheetPane* pane) {
-    std::erase(openDocuments_, pane);
-    reportedAsTooLong_.erase(pane);
-    statements_->Follow(nullptr);
-    documents_->removeTab(documents_->indexOf(pane));
-    pane->deleteLater();
-    PaneActivated();
 }
 
 void frmMain::BringToFront() {
@@ -295,19 +164,17 @@ void frmMain::ReportOverflow() {
 }
 
 void frmMain::ReportFault(const QString& what) {
+    // First what could be lost, then what it was.
+    KeepRecoveryCopies();
     messages_->Tell(QStringLiteral("Something went wrong in Tintora."),
                     QStringLiteral("The program goes on. What it knows of the fault: %1").arg(what));
 }
 
-void frmMain::closeEvent(QCloseEvent* event) {
-    for (StyleSheetPane* const pane : std::vector(openDocuments_)) {
-        if (!pane->Window().DoHide()) {
-            event->ignore();
-            return;
-        }
-    }
-    SaveLocationOnClose();
-    event->accept();
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    StyleSheetPane* const pane = ActiveDocument();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && pane != nullptr)
+        pane->LookAfterFile();
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "editor/EditorSurroundings.h"
 #include "settings/Settings.h"
+#include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "text/Text.h"
 
@@ -18,19 +19,17 @@ class QToolBar;
 
 namespace tintora {
 
-class CSSEditorSrcView;
-class ktStyleSheetWindow;
 class StatementList;
 struct ActionLook;
-class StyleSheetPane;
 
 /// The main window: the open style sheets in tabs, and the list of the front one's statements beside them.
-class frmMain : public QMainWindow, private EditorFrame {
+class frmMain : public QMainWindow, private PaneFrame {
     Q_OBJECT
 
   public:
-    /// `store` must outlive the window. `messages` says and asks what the user must see; without one, boxes do.
-    explicit frmMain(SettingsStore& store, std::unique_ptr<UserMessages> messages = nullptr);
+    /// `store` and `recovery` must outlive the window. `messages` says and asks what the user must see; without one,
+    /// boxes do.
+    frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages = nullptr);
     ~frmMain() override;
 
     /// The load step: brings the window to its stored place, and opens `file`, or a new style sheet if `file` is "" and
@@ -40,6 +39,13 @@ class frmMain : public QMainWindow, private EditorFrame {
     /// Opens the file in a pane of its own, or brings the pane to the front that has it open. A path that names no file
     /// does nothing; a file that can't be read is told.
     void OpenOneStyleSheet(TextView path);
+
+    /// Asks what to do about the recovery copies that the last run has left, and does it. Those whose text is in their
+    /// file already are dropped.
+    void OfferLeftCopies(const std::vector<LeftCopy>& left);
+
+    /// Keeps the recovery copies of all unsaved style sheets, now.
+    void KeepRecoveryCopies();
 
     /// Opens a new, empty style sheet.
     void LoadNewDoc();
@@ -61,10 +67,17 @@ class frmMain : public QMainWindow, private EditorFrame {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
+    // PaneFrame
+    [[nodiscard]] bool IsActivePane(const StyleSheetPane& pane) const override;
+    void WindowActivated(StyleSheetPane& pane) override;
+    void WindowClosed(StyleSheetPane& pane) override;
+    void EnableDocumentCommands(bool enabled) override;
+
     // EditorFrame
     [[nodiscard]] bool IsDocumentInFront() const override { return true; }
     void UpdateMenuItem(TextView key, bool enabled) override;
@@ -78,6 +91,7 @@ class frmMain : public QMainWindow, private EditorFrame {
     QAction* AddDocumentAction(QMenu& menu, const ActionLook& look, void (ktStyleSheetWindow::*command)());
     QAction* AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)());
     void SetUpFileMenu(QToolBar& standard);
+    void SetUpPageCommands(QMenu& file);
     void SetUpEditMenu(QToolBar& standard);
     void SetUpStatementMenu();
     void SetUpWindowMenu();
@@ -92,9 +106,12 @@ class frmMain : public QMainWindow, private EditorFrame {
     void ClosePane(int index);
     void RemovePane(StyleSheetPane* pane);
     void PaneActivated();
+    void Recover(const LeftCopy& copy);
+    void FinishWriting(const LeftCopy& copy);
     void UpdateCaption(const StyleSheetPane* pane);
 
     SettingsStore& store_;
+    RecoveryCopies& recovery_;
     Settings settings_;
     std::unique_ptr<UserMessages> messages_;
     QTabWidget* documents_;
@@ -103,6 +120,8 @@ class frmMain : public QMainWindow, private EditorFrame {
     QLabel* format_;
     std::vector<StyleSheetPane*> openDocuments_;
     std::set<const StyleSheetPane*> reportedAsTooLong_;
+    /// The actions that act on the front document and have no rule of their own.
+    std::vector<QAction*> documentActions_;
     int newDocumentCount_ = 0;
 };
 

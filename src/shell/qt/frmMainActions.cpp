@@ -26,17 +26,26 @@ QAction* frmMain::AddAction(QMenu& menu, const ActionLook& look, std::function<v
 }
 
 QAction* frmMain::AddDocumentAction(QMenu& menu, const ActionLook& look, void (ktStyleSheetWindow::*command)()) {
-    return AddAction(menu, look, [this, command] {
+    QAction* const action = AddAction(menu, look, [this, command] {
         if (StyleSheetPane* const pane = ActiveDocument())
             (pane->Window().*command)();
     });
+    documentActions_.push_back(action);
+    return action;
 }
 
 QAction* frmMain::AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)()) {
-    return AddAction(menu, look, [this, command] {
+    QAction* const action = AddAction(menu, look, [this, command] {
         if (StyleSheetPane* const pane = ActiveDocument())
             (pane->CSSEditor().*command)();
     });
+    documentActions_.push_back(action);
+    return action;
+}
+
+void frmMain::EnableDocumentCommands(bool enabled) {
+    for (QAction* const action : documentActions_)
+        action->setEnabled(enabled);
 }
 
 void frmMain::SetUpActions() {
@@ -70,12 +79,33 @@ void frmMain::SetUpFileMenu(QToolBar& standard) {
     AddAction(file, {"miFCloseWindow", "&Close", "document-close", QKeySequence::Close, "Closes the style sheet"},
               [this] { ClosePane(documents_->currentIndex()); });
     file.addSeparator();
+    SetUpPageCommands(file);
+    file.addSeparator();
     AddEditorAction(file, {"miFPrint", "&Print…", "document-print", QKeySequence::Print, "Prints the style sheet"},
                     &CSSEditorSrcView::PrintStyleSheet);
     file.addSeparator();
     AddAction(file,
               {"miFExit", "&Quit", "application-exit", QKeySequence(Qt::CTRL | Qt::Key_Q), "Closes all style sheets"},
               [this] { close(); });
+}
+
+void frmMain::SetUpPageCommands(QMenu& file) {
+    AddDocumentAction(file, {"miFLinkPage", "Lin&k Page…", "insert-link", {}, "Links an HTML page to the style sheet"},
+                      &ktStyleSheetWindow::LinkPage);
+    AddDocumentAction(file,
+                      {"miFLinkSite",
+                       "Link Si&te…",
+                       "",
+                       {},
+                       "Links every HTML page of a folder and its subfolders to the style sheet"},
+                      &ktStyleSheetWindow::LinkSite);
+    AddDocumentAction(file,
+                      {"miFEmbedStyleSheet",
+                       "&Embed in Page…",
+                       "",
+                       {},
+                       "Puts the style sheet into an HTML page, and goes on with it there"},
+                      &ktStyleSheetWindow::EmbedInPage);
 }
 
 void frmMain::SetUpEditMenu(QToolBar& standard) {
