@@ -1,93 +1,149 @@
 #include "document/Formatter.h"
 
 #include "language/FeatureNames.h"
-#include "language/Words.h"
 #include "model/SelectorText.h"
 #include "text/Whitespace.h"
+
+#include <utility>
 
 namespace tintora {
 
 namespace {
 
-/// The text through its last character before `end` that isn't white space.
-TextView UpToText(TextView text, std::size_t end) {
-    while (end > 0 && IsWhitespaceUnit(text[end - 1]))
-        --end;
-    return text.substr(0, end);
-}
-
-/// With `separator` in the place of the white space behind each ";".
-Text WithPropertySeparators(TextView text, TextView separator) {
-    Text result;
-    std::size_t from = 0;
-    for (std::size_t at = text.find(u';'); at != TextView::npos; at = text.find(u';', from)) {
-        result.append(text.substr(from, at + 1 - from)).append(separator);
-        from = FindNonWhitespace(text, at + 1);
-    }
-    return result.append(text.substr(from));
-}
-
 int TypeOf(TextView statement) { return GetSelectorType(ExtractSelector(statement)); }
 
-/// A rule, whose first "{" is at `opening`.
-Text FormattedRule(TextView rule, std::size_t opening, const Separators& separators) {
-    const std::size_t body = FindNonWhitespace(rule, opening + 1);
-    const Text head = Text(UpToText(rule, opening)) + separators.selectorDeclaration + u"{" + separators.firstProperty;
-    Text text = WithPropertySeparators(head + Text(rule.substr(body)), separators.property);
-    const std::size_t closing = text.rfind(u'}');
-    if (closing == Text::npos)
-        return text;
-    // Between braces with nothing in them both separators stay.
-    const bool isEmpty = body < rule.size() && rule.find_last_of(u'}') == body;
-    const TextView front = isEmpty ? TextView(text).substr(0, closing) : UpToText(text, closing);
-    return Text(front) + separators.lastProperty + text.substr(closing);
-}
+/// Lays statements out behind one another, in one text.
+class Layout {
+  public:
+    explicit Layout(const Separators& separators) : separators_(separators) {}
 
-/// The index behind the entries that are nested in entry `index`.
-int IndexBehindNested(const ktStyleSheet& sheet, int index) {
-    int next = index + 1;
-    while (next < static_cast<int>(sheet.GetAllStatementsAsTextUnstripped().size()) &&
-           sheet.GetStatementOrigin(next + 1).isNested)
-        ++next;
-    return next;
-}
+    /// One statement, trimmed, whose selector has this type.
+    void Append(TextView statement, int type) {
+        const std::size_t opening = statement.find(u'{');
+        if (type == selector_type::AtMedia)
+            text_.append(statement.substr(0, opening == TextView::npos ? opening : opening + 1));
+        else if (type < selector_type::Type || opening == TextView::npos)
+            text_.append(statement);
+        else
+            AppendRule(statement, opening);
+    }
+
+    void AppendAsItStands(TextView text) { text_.append(text); }
+
+    /// Between two statements.
+    void AppendStatementSeparator() { text_.append(separators_.statement); }
+
+    /// The end of a block.
+    void AppendClosingBrace() { text_.append(separators_.lastProperty).append(u"}"); }
+
+    [[nodiscard]] std::size_t Length() const noexcept { return text_.size(); }
+    [[nodiscard]] TextView From(std::size_t start) const { return TextView(text_).substr(start); }
+    void CutTo(std::size_t length) { text_.resize(length); }
+    [[nodiscard]] Text Take() { return std::move(text_); }
+
+  private:
+    /// A rule, whose first "{" is at `opening`.
+    void AppendRule(TextView rule, std::size_t opening) {
+        const std::size_t start = text_.size();
+        text_.append(rule.substr(0, opening));
+        StripRight(text_.size(), start);
+        text_.append(separators_.selectorDeclaration).append(u"{").append(separators_.firstProperty);
+        const std::size_t body = FindNonWhitespace(rule, opening + 1);
+        AppendDeclarations(rule.substr(body));
+        const std::size_t closing = text_.rfind(u'}');
+        if (closing == Text::npos || closing < start)
+            return;
+        // Between braces with nothing in them both separators stay.
+        const bool isEmpty = body < rule.size() && rule.rfind(u'}') == body;
+        text_.insert(isEmpty ? closing : StripRight(closing, start), separators_.lastProperty);
+    }
+
+    /// With the separator in the place of the white space behind each ";".
+    void AppendDeclarations(TextView body) {
+        std::size_t from = 0;
+        for (std::size_t at = body.find(u';'); at != TextView::npos; at = body.find(u';', from)) {
+            text_.append(body.substr(from, at + 1 - from)).append(separators_.property);
+            from = FindNonWhitespace(body, at + 1);
+        }
+        text_.append(body.substr(from));
+    }
+
+    /// Takes away the white space in front of `end`, but none in front of `start`; gives where the rest ends.
+    std::size_t StripRight(std::size_t end, std::size_t start) {
+        std::size_t stripped = end;
+        while (stripped > start && IsWhitespaceUnit(text_[stripped - 1]))
+            --stripped;
+        text_.erase(stripped, end - stripped);
+        return stripped;
+    }
+
+    const Separators& separators_;
+    Text text_;
+};
+
+/// The cached statements of a style sheet, trimmed.
+class CachedStatements {
+  public:
+    explicit CachedStatements(const ktStyleSheet& sheet)
+        : sheet_(sheet), count_(static_cast<int>(sheet.GetAllStatementsAsTextUnstripped().size())) {}
+
+    [[nodiscard]] int Count() const noexcept { return count_; }
+    [[nodiscard]] TextView At(int index) const {
+        return TrimmedView(sheet_.GetAllStatementsAsTextUnstripped()[static_cast<std::size_t>(index)]);
+    }
+
+    /// The index behind the entries that are nested in entry `index`.
+    [[nodiscard]] int BehindNested(int index) const {
+        int next = index + 1;
+        while (next < count_ && sheet_.GetStatementOrigin(next + 1).isNested)
+            ++next;
+        return next;
+    }
+
+  private:
+    const ktStyleSheet& sheet_;
+    int count_;
+};
 
 /// The `@media` block of the entries from `first` to before `next`: its head, its nested statements and its brace.
-Text FormattedBlock(const ktStyleSheet& sheet, int first, int next, const Separators& separators) {
-    Texts entries;
-    for (int index = first; index < next; ++index)
-        entries.push_back(FormatOneStatement(sheet.getNthStatementAsText(index), separators));
-    entries.push_back(separators.lastProperty + u"}");
-    return JoinItems(entries, separators.statement);
+void AppendBlock(Layout& layout, const CachedStatements& statements, int first, int next) {
+    const std::size_t start = layout.Length();
+    for (int index = first; index < next; ++index) {
+        layout.Append(statements.At(index), TypeOf(statements.At(index)));
+        layout.AppendStatementSeparator();
+    }
+    layout.AppendClosingBrace();
+    if (AreEqualWithoutWhitespace(layout.From(start), statements.At(first)))
+        return;
+    layout.CutTo(start);
+    layout.AppendAsItStands(statements.At(first));
 }
 
 }  // namespace
 
 Text FormatOneStatement(TextView statement, const Separators& separators) {
-    const int type = TypeOf(statement);
-    const std::size_t opening = statement.find(u'{');
-    if (type == selector_type::AtMedia)
-        return Text(statement.substr(0, opening == TextView::npos ? opening : opening + 1));
-    if (type < selector_type::Type || opening == TextView::npos)
-        return Text(statement);
-    return FormattedRule(statement, opening, separators);
+    Layout layout(separators);
+    layout.Append(statement, TypeOf(statement));
+    return layout.Take();
 }
 
 Text FormattedStyleSheet(const ktStyleSheet& sheet, const Separators& separators, MediaBlockFormat blocks) {
-    Texts output;
-    const int count = static_cast<int>(sheet.GetAllStatementsAsTextUnstripped().size());
-    for (int index = 0, next = 0; index < count; index = next) {
-        next = IndexBehindNested(sheet, index);
-        const Text statement = sheet.getNthStatementAsText(index);
-        if (TypeOf(statement) != selector_type::AtMedia) {
-            output.push_back(FormatOneStatement(statement, separators));
-            continue;
-        }
-        const Text block =
-            blocks == MediaBlockFormat::FormatNested ? FormattedBlock(sheet, index, next, separators) : statement;
-        output.push_back(AreEqualWithoutWhitespace(block, statement) ? block : statement);
+    Layout layout(separators);
+    const CachedStatements statements(sheet);
+    for (int index = 0, next = 0; index < statements.Count(); index = next) {
+        next = statements.BehindNested(index);
+        if (index > 0)
+            layout.AppendStatementSeparator();
+        const TextView statement = statements.At(index);
+        const int type = TypeOf(statement);
+        if (type != selector_type::AtMedia)
+            layout.Append(statement, type);
+        else if (blocks == MediaBlockFormat::FormatNested)
+            AppendBlock(layout, statements, index, next);
+        else
+            layout.AppendAsItStands(statement);
     }
-    return JoinItems(output, separators.statement);
+    return layout.Take();
 }
 
 bool AreEqualWithoutWhitespace(TextView one, TextView other) noexcept {

@@ -29,6 +29,7 @@ void ktStyleSheetWindow::SetSelectorsNeedUpdating(bool needUpdating) {
 void ktStyleSheetWindow::TextChanged() {
     SetDirty(true);
     unsavedCopy_.TextChanged();
+    isCacheStale_ = true;
     cacheStatementsDelay_->Restart();
 }
 
@@ -36,11 +37,12 @@ void ktStyleSheetWindow::SelectionChanged() { selectionChangedDelay_->Restart();
 
 void ktStyleSheetWindow::CacheStatements() {
     styleSheet_.CacheStatements();
+    isCacheStale_ = false;
     frame_.StatementsCached();
 }
 
 void ktStyleSheetWindow::CatchUpWithText() {
-    if (cacheStatementsDelay_->IsRunning())
+    if (isCacheStale_)
         CacheStatements();
 }
 

@@ -384,6 +384,8 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     Encoding fileEncoding_ = Encoding::Utf8;
     int lastSelectedStatement_ = 0;
     bool isDirty_ = false;
+    /// The text has changed since its statements were read.
+    bool isCacheStale_ = false;
     /// The document is clean because the user doesn't want to save it.
     bool isGivenUp_ = false;
     /// The document is clean, and yet its text is in no file.

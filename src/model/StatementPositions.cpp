@@ -17,13 +17,14 @@ struct Step {
     int skipped = 0;
 };
 
+/// Walks over so many entries; `stepAt` gives the step over the one of an index, with the sum in front of it.
 template <typename StepAt>
-StatementPlace Walk(const Texts& statements, int position, StepAt stepAt) {
+StatementPlace Walk(std::ptrdiff_t count, int position, StepAt stepAt) {
     static_cast<void>(Narrow(position));
     StatementPlace place;
     int sum = 0;
-    while (place.number <= std::ssize(statements)) {
-        const Step step = stepAt(TextView(statements[static_cast<std::size_t>(place.number - 1)]), sum);
+    while (place.number <= count) {
+        const Step step = stepAt(static_cast<std::size_t>(place.number - 1), sum);
         sum += step.length;
         place.number += step.skipped;
         if (sum > position) {
@@ -45,18 +46,20 @@ int BareHeaderLength(TextView block) {
 
 }  // namespace
 
-StatementPlace WalkToPosition(const Texts& statements, int position) {
-    return Walk(statements, position, [=](TextView statement, int sum) -> Step {
-        if (!MentionsMedia(statement))
-            return {LengthOf(statement), 0};
-        if (sum + LengthOf(statement) > position)
-            return {MediaHeaderLength(statement), 0};
-        return {LengthOf(statement), static_cast<int>(FindAtMediaStatements(statement).size())};
+StatementPlace WalkToPosition(const std::vector<StatementExtent>& extents, int position) {
+    return Walk(std::ssize(extents), position, [&](std::size_t index, int sum) -> Step {
+        const StatementExtent& extent = extents[index];
+        if (!extent.mentionsMedia)
+            return {extent.length, 0};
+        if (sum + extent.length > position)
+            return {extent.headerLength, 0};
+        return {extent.length, extent.nestedCount};
     });
 }
 
 StatementPlace WalkIntoBlocks(const Texts& statements, int position, HeaderWhitespace whitespace) {
-    return Walk(statements, position, [=](TextView statement, int) -> Step {
+    return Walk(std::ssize(statements), position, [&](std::size_t index, int) -> Step {
+        const TextView statement = statements[index];
         if (!MentionsMedia(statement))
             return {LengthOf(statement), 0};
         const bool counts = whitespace == HeaderWhitespace::Counts;

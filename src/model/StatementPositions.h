@@ -1,6 +1,9 @@
 #pragma once
 
+#include "model/StatementScan.h"
 #include "text/Text.h"
+
+#include <vector>
 
 /// Where a 0-based offset into the text lies in terms of the cached statements.
 ///
@@ -19,7 +22,7 @@ struct StatementPlace {
 };
 
 /// Passes over each block that ends at or before `position`, with as many entries as it has nested statements.
-[[nodiscard]] StatementPlace WalkToPosition(const Texts& statements, int position);
+[[nodiscard]] StatementPlace WalkToPosition(const std::vector<StatementExtent>& extents, int position);
 
 /// How much of a block counts as its header.
 enum class HeaderWhitespace { Counts, DoesNotCount };

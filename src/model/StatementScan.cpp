@@ -18,11 +18,12 @@ class StatementScanner {
         // A guess at the number of statements spares most of the growing.
         scanned_.statements.reserve(text_.size() / 32);
         scanned_.origins.reserve(text_.size() / 32);
+        scanned_.extents.reserve(text_.size() / 32);
         for (std::size_t index = 0; index < text_.size(); ++index)
             Visit(index);
         const TextView rest = text_.substr(start_);
         if (!rest.empty() && !IsAllWhitespace(rest))
-            Append(start_, rest.size(), false);
+            Close(text_.size(), 0);
         return std::move(scanned_);
     }
 
@@ -46,10 +47,12 @@ class StatementScanner {
 
     // Neither comments nor rules keep these two words from switching the scan.
     void VisitAt(std::size_t index) {
-        if (HasLoweredAt(text_, index, u"@import"))
+        if (HasLoweredAt(text_, index, u"@import")) {
             inImport_ = true;
-        else if (HasLoweredAt(text_, index, u"@media"))
+        } else if (HasLoweredAt(text_, index, u"@media")) {
             inMedia_ = true;
+            lastMention_ = index;
+        }
     }
 
     void VisitSlash(std::size_t index) {
@@ -93,10 +96,20 @@ class StatementScanner {
     }
 
     void CloseMediaBlock(std::size_t index) {
-        const std::size_t block = start_;
-        Close(index, 1);
-        for (const NestedPlace& place : FindAtMediaStatements(text_.substr(block, start_ - block)))
-            Append(block + place.start, place.length, true);
+        const std::size_t start = start_;
+        const std::size_t mention = lastMention_;
+        const TextView block = TakeThrough(index, 1);
+        const std::vector<NestedPlace> places = FindAtMediaStatements(block);
+        const bool mentionsMedia = mention != TextView::npos;
+        Append(start, block, false, mentionsMedia ? MediaExtent(block, places.size()) : PlainExtent(block));
+        // A mention in front of the first brace is the block's own.
+        const std::size_t brace = block.find(u'{');
+        const bool mayMention = mentionsMedia && (brace == TextView::npos || mention > start + brace);
+        for (const NestedPlace& place : places) {
+            const TextView nested = block.substr(place.start, place.length);
+            Append(start + place.start, nested, true,
+                   mayMention && MentionsMedia(nested) ? MediaExtent(nested) : PlainExtent(nested));
+        }
         inMedia_ = false;
     }
 
@@ -118,16 +131,37 @@ class StatementScanner {
     }
 
     void Close(std::size_t index, std::size_t tokenLength) {
+        const std::size_t start = start_;
+        const bool mentionsMedia = lastMention_ != TextView::npos;
+        const TextView statement = TakeThrough(index, tokenLength);
+        Append(start, statement, false, mentionsMedia ? MediaExtent(statement) : PlainExtent(statement));
+    }
+
+    /// What stands from the end of the last statement through a token; the next statement begins behind it.
+    TextView TakeThrough(std::size_t index, std::size_t tokenLength) {
         std::size_t end = index + tokenLength;
         if (whitespace_ == WhitespaceBetween::TrailsTheFirst)
             end = FindNonWhitespace(text_, end);
-        Append(start_, end - start_, false);
+        const TextView statement = text_.substr(start_, end - start_);
         start_ = end;
+        lastMention_ = TextView::npos;
+        return statement;
     }
 
-    void Append(std::size_t start, std::size_t length, bool isNested) {
-        scanned_.statements.emplace_back(text_.substr(start, length));
+    static StatementExtent PlainExtent(TextView statement) { return {static_cast<int>(statement.size()), false, 0, 0}; }
+
+    static StatementExtent MediaExtent(TextView statement, std::size_t nestedCount) {
+        return {static_cast<int>(statement.size()), true, MediaHeaderLength(statement), static_cast<int>(nestedCount)};
+    }
+
+    static StatementExtent MediaExtent(TextView statement) {
+        return MediaExtent(statement, FindAtMediaStatements(statement).size());
+    }
+
+    void Append(std::size_t start, TextView statement, bool isNested, const StatementExtent& extent) {
+        scanned_.statements.emplace_back(statement);
         scanned_.origins.push_back({start, isNested});
+        scanned_.extents.push_back(extent);
     }
 
     TextView text_;
@@ -136,6 +170,8 @@ class StatementScanner {
 
     ScannedStatements scanned_;
     std::size_t start_ = 0;
+    /// Where "@media" stands last in the statement that is open; `npos` if nowhere.
+    std::size_t lastMention_ = TextView::npos;
     int mediaDepth_ = 0;
     bool inImport_ = false;
     bool inMedia_ = false;

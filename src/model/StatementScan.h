@@ -30,10 +30,25 @@ struct StatementOrigin {
     friend bool operator==(const StatementOrigin&, const StatementOrigin&) = default;
 };
 
-/// Statements with their origins, one for each.
+/// How much of the text an entry stands for when places in the text are looked for.
+struct StatementExtent {
+    /// The number of characters of the entry.
+    int length = 0;
+    /// Whether it mentions "@media", in whatever case, anywhere. The next two are 0 if it doesn't.
+    bool mentionsMedia = false;
+    /// `MediaHeaderLength` of the entry.
+    int headerLength = 0;
+    /// How many statements `FindAtMediaStatements` finds in the entry.
+    int nestedCount = 0;
+
+    friend bool operator==(const StatementExtent&, const StatementExtent&) = default;
+};
+
+/// Statements with their origins and their extents, one for each.
 struct ScannedStatements {
     Texts statements;
     std::vector<StatementOrigin> origins;
+    std::vector<StatementExtent> extents;
 };
 
 /// The statements of `text` in their order. An `@media` block is one statement, directly followed by those that are
@@ -44,7 +59,7 @@ struct ScannedStatements {
     TextView text, EscapedQuote escapedQuote = EscapedQuote::Guards,
     WhitespaceBetween whitespace = WhitespaceBetween::TrailsTheFirst);
 
-/// The same without the origins.
+/// The statements alone.
 [[nodiscard]] Texts ScanStatements(TextView text, EscapedQuote escapedQuote = EscapedQuote::Guards,
                                    WhitespaceBetween whitespace = WhitespaceBetween::TrailsTheFirst);
 

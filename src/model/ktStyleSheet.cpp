@@ -62,12 +62,12 @@ Text ktStyleSheet::getNthStatementAsText(int n) const {
 Texts ktStyleSheet::GetAtMediaStatements(TextView block) const { return tintora::GetAtMediaStatements(block); }
 
 int ktStyleSheet::GetStatementNumber(int position) const {
-    const StatementPlace place = WalkToPosition(GetAllStatementsAsTextUnstripped(), position);
+    const StatementPlace place = WalkToPosition(cachedStatements_.extents, position);
     return place.stopped ? place.number : place.number - 1;
 }
 
 int ktStyleSheet::GetStatementStartChar(int position) const {
-    const StatementPlace place = WalkToPosition(GetAllStatementsAsTextUnstripped(), position);
+    const StatementPlace place = WalkToPosition(cachedStatements_.extents, position);
     if (place.number > std::ssize(GetAllStatementsAsTextUnstripped()))
         return GetNthStatementStartChar(place.number - 1);
     return place.start;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/MediaBlocks.h"
 #include "model/StatementScan.h"
 #include "model/ktStyleSheet.h"
 #include "text/Whitespace.h"
@@ -9,6 +10,14 @@
 
 /// What holds for every text whatever. The tests ask it of random texts, the fuzzers of what they think of.
 namespace tintora::test {
+
+/// The extent of a statement, worked out from its text alone.
+inline StatementExtent ExtentOf(TextView statement) {
+    const auto length = static_cast<int>(statement.size());
+    if (!MentionsMedia(statement))
+        return {length, false, 0, 0};
+    return {length, true, MediaHeaderLength(statement), static_cast<int>(GetAtMediaStatements(statement).size())};
+}
 
 /// What is wrong with the statements of a text below the length limit: "" if they joined give the text, and each nested
 /// one lies in the block in front of it.
@@ -26,6 +35,8 @@ inline std::string FaultInStatements(TextView text) {
             return "a nested statement lies outside of its block";
         if (!origin.isNested && origin.start != joined)
             return "there is a gap or an overlap";
+        if (scanned.extents[index] != ExtentOf(statement))
+            return "an extent isn't that of its statement";
         if (!origin.isNested)
             joined += statement.size();
     }
