@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/StillClock.h"
 #include "document/ktStyleSheetWindow.h"
 #include "editor/MemorySourceView.h"
+#include "editor/StillClock.h"
 #include "settings/SettingsStore.h"
 #include "text/Text.h"
 

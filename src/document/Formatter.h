@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/Separators.h"
 #include "model/ktStyleSheet.h"
+#include "settings/Separators.h"
 #include "text/Text.h"
 
 /// The formatter. It rewrites white space and nothing else, at five places of a statement.

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "document/Clock.h"
 #include "document/DocumentSurroundings.h"
 #include "document/KeyRoad.h"
 #include "document/KnownFile.h"
 #include "document/RecoveryCopies.h"
-#include "document/Separators.h"
 #include "document/UnsavedCopy.h"
 #include "editor/CSSEditorSrcView.h"
+#include "editor/Clock.h"
 #include "model/StyleSheetTextSource.h"
 #include "model/ktStyleSheet.h"
+#include "settings/Separators.h"
 #include "settings/SettingsStore.h"
 #include "text/Encoding.h"
 #include "text/Text.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/ktStyleSheetWindow.h"
-#include "document/qt/QtClock.h"
 #include "editor/qt/EditorDialogBoxes.h"
 #include "editor/qt/QtClipboard.h"
+#include "editor/qt/QtClock.h"
 #include "editor/qt/ScintillaSourceView.h"
 #include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"

@@ -1,4 +1,4 @@
-#include "document/qt/QtClock.h"
+#include "editor/qt/QtClock.h"
 
 #include <QTimer>
 #include <utility>

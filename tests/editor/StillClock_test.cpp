@@ -1,4 +1,4 @@
-#include "document/StillClock.h"
+#include "editor/StillClock.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/Clock.h"
+#include "editor/Clock.h"
 
 namespace tintora {
 

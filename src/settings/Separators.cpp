@@ -1,4 +1,4 @@
-#include "document/Separators.h"
+#include "settings/Separators.h"
 
 #include "settings/Settings.h"
 
