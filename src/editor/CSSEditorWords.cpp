@@ -1,6 +1,7 @@
 // Tokens and words around a position.
 
 #include "editor/CSSEditorSrcView.h"
+#include "editor/TypeAhead.h"
 #include "language/ValueParsers.h"
 #include "text/Narrowing.h"
 #include "text/Whitespace.h"
@@ -30,17 +31,8 @@ TokenText CSSEditorSrcView::GetTokenAtCaret(int column, int row) const {
 
 Text CSSEditorSrcView::GetTokenAtCharPosition(int offset) const {
     const Text text = GetText();
-    const int length = NarrowLength(text);
-    const auto isDelimiter = [&](int position) { return IsCSSDelimiter(text[static_cast<std::size_t>(position - 1)]); };
-    int end = std::max<int>(Narrow(offset), 1);
-    while (end <= length && !isDelimiter(end))
-        ++end;
-    int before = std::min(offset, length);
-    while (before > 0 && !isDelimiter(before))
-        --before;
-    const int start = std::max(before, 0) + 1;
-    end = std::min(end, length + 1);
-    return start < end ? TrimWhitespace(Slice(text, start - 1, end - start)) : Text();
+    NarrowLength(text);
+    return TextBetweenDelimiters(text, Narrow(offset));
 }
 
 WordBoundaries CSSEditorSrcView::GetWordBoundaries(int column, int row) const {
