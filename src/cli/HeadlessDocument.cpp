@@ -38,6 +38,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
                                              public FileDialogs,
                                              public PageDialogs,
                                              public EditorDialogs,
+                                             public TypeAheadPopup,
                                              public Clipboard {
   public:
     // DocumentFrame
@@ -89,6 +90,10 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     [[nodiscard]] Text ChooseFromMenu(const std::vector<ContextMenuEntry>&) override { return {}; }
     void ShowMessage(TextView, TextView) override {}
 
+    // TypeAheadPopup: a list that nobody chooses from; a script makes its choices by an operation of their own.
+    [[nodiscard]] bool CanOpen() const override { return true; }
+    void GetTypeAheadValue(const Texts&, TextView, int, int) override {}
+
     // Clipboard
     [[nodiscard]] bool HasText() const override { return !clipboardText.empty(); }
     [[nodiscard]] Text GetText() const override { return clipboardText; }
@@ -104,7 +109,7 @@ HeadlessDocument::HeadlessDocument(SettingsStore& settings)
     : surroundings_(std::make_unique<Surroundings>()), view_(std::make_unique<MemorySourceView>(*surroundings_)) {
     Surroundings& all = *surroundings_;
     window_ = std::make_unique<ktStyleSheetWindow>(ktStyleSheetWindow::Surroundings{
-        *view_, all, all, all, all, all, all, all, all, all.recovery, all, all, settings, clock_});
+        *view_, all, all, all, all, all, all, all, all, all.recovery, all, all, settings, clock_, all});
 }
 
 HeadlessDocument::~HeadlessDocument() = default;
@@ -129,15 +134,13 @@ void HeadlessDocument::PressKey(char16_t character) {
     // The window hears of a key before its editor does.
     window_->KeyDown(code);
     editor.KeyPressedDown(code, 0);
-    if (character == u'\b') {
-        editor.CharacterTyped(character);
+    editor.CharacterTyped(character);
+    if (character == u'\b')
         view_->PressBackspace();
-    } else if (character == u'\x7f') {
+    else if (character == u'\x7f')
         view_->PressDelete();
-    } else {
-        editor.CharacterTyped(character);
+    else
         view_->TypeCharacter(character);
-    }
     window_->KeyUp(code);
     editor.KeyReleased(code, 0);
 }

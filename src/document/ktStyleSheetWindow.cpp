@@ -31,7 +31,7 @@ ktStyleSheetWindow::ktStyleSheetWindow(const Surroundings& surroundings)
       settings_(surroundings.settings),
       textEditor_(surroundings.textEditor),
       editor_({surroundings.textEditor, *this, surroundings.frame, surroundings.clipboard, surroundings.editorDialogs,
-               surroundings.settings}),
+               surroundings.settings, surroundings.clock, surroundings.typeAheadPopup}),
       keyRoad_(*this, editor_),
       cacheStatementsDelay_(surroundings.clock.MakeTimer(CacheInterval, [this] { CacheStatements(); })),
       selectionChangedDelay_(

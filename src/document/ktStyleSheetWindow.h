@@ -51,6 +51,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
         Clipboard& clipboard;
         SettingsStore& settings;
         Clock& clock;
+        TypeAheadPopup& typeAheadPopup;
     };
 
     explicit ktStyleSheetWindow(const Surroundings& surroundings);
@@ -200,7 +201,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     /// For operations that can't wait for the timers. The palette of statements is neither served nor forgotten.
     void UpdateNow();
-    void DisableUpdates();
+    void DisableUpdates() override;
     void EnableUpdates() { ResetIdleTimer(); }
     void ResetIdleTimer();
     void LivePreview();
@@ -240,13 +241,13 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     [[nodiscard]] int GetCurrentSelectorType() const;
 
     /// The selectors of the style sheet, in order.
-    [[nodiscard]] Texts GetCurrentSelectors() const;
+    [[nodiscard]] Texts GetCurrentSelectors() const override;
 
     // What the style sheet uses.
 
-    [[nodiscard]] Texts GetCurrentColors() const { return styleSheet_.GetAllColors(); }
-    [[nodiscard]] Texts GetCurrentFonts() const { return styleSheet_.GetAllFonts(); }
-    [[nodiscard]] Texts GetCurrentURLs() const { return styleSheet_.GetAllURLs(); }
+    [[nodiscard]] Texts GetCurrentColors() const override { return styleSheet_.GetAllColors(); }
+    [[nodiscard]] Texts GetCurrentFonts() const override { return styleSheet_.GetAllFonts(); }
+    [[nodiscard]] Texts GetCurrentURLs() const override { return styleSheet_.GetAllURLs(); }
     [[nodiscard]] Texts GetAllClasses() const { return styleSheet_.GetAllClasses(); }
     [[nodiscard]] Texts GetAllIDs() const { return styleSheet_.GetAllIDs(); }
 
@@ -302,6 +303,12 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     void SelectionChanged() override;
     void DeleteKeyDown() override;
     void SpecialKeyUp() override {}
+
+    /// Writes a choice from the list of type-ahead, and brings the palettes up to date at once.
+    void SetTypeAheadChoice(TextView choice) {
+        editor_.SetTypeAheadChoice(choice);
+        UpdateNow();
+    }
     void HandleCutPasteClear(TextView text) override;
     void Undo() override;
     void LoadContent(TextView file) override;

@@ -47,15 +47,18 @@ void CSSEditorSrcView::TextChanged() {
 
 void CSSEditorSrcView::ChangedOtherwise() { parent_.SetNeedsUpdating(true); }
 
-void CSSEditorSrcView::KeyPressedDown(int code, [[maybe_unused]] int shift) {
+void CSSEditorSrcView::KeyPressedDown(int code, int shift) {
     if (code == key_code::Control)
         CtrlKeyDown = true;
+    if (code == key_code::Space && shift == shift_state::Control)
+        StartTypeAhead(0, false);
     if (code == key_code::Delete)
         parent_.DeleteKeyDown();
 }
 
-// Whether type-ahead begins depends on the character; the list itself is no part of the editor yet.
-void CSSEditorSrcView::CharacterTyped([[maybe_unused]] char16_t character) {}
+void CSSEditorSrcView::CharacterTyped(char16_t character) {
+    StartTypeAhead(static_cast<std::int16_t>(character), CtrlKeyDown);
+}
 
 void CSSEditorSrcView::KeyReleased(int code, [[maybe_unused]] int shift) {
     CtrlKeyDown = false;

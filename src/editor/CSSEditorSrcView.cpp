@@ -6,10 +6,13 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace tintora {
 
 namespace {
+
+constexpr std::chrono::milliseconds TypeAheadInterval{1000};
 
 /// Nothing is drawn as long as it lives.
 class RedrawFreeze {
@@ -52,7 +55,9 @@ CSSEditorSrcView::CSSEditorSrcView(const Surroundings& surroundings)
       frame_(surroundings.frame),
       clipboard_(surroundings.clipboard),
       dialogs_(surroundings.dialogs),
-      settings_(surroundings.settings) {
+      settings_(surroundings.settings),
+      typeAheadPopup_(surroundings.typeAheadPopup),
+      typeAheadDelay_(surroundings.clock.MakeTimer(TypeAheadInterval, [this] { TypeAhead(); })) {
     SetupColorCoding();
     textEditor_.SetEvents(this);
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "editor/Clock.h"
 #include "editor/EditorSurroundings.h"
 #include "editor/SourceView.h"
 #include "settings/SettingsStore.h"
 #include "text/Text.h"
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace tintora {
@@ -42,6 +44,8 @@ class CSSEditorSrcView final : public SourceViewEvents {
         Clipboard& clipboard;
         EditorDialogs& dialogs;
         SettingsStore& settings;
+        Clock& clock;
+        TypeAheadPopup& typeAheadPopup;
     };
 
     /// Sets the control up and listens to it.
@@ -128,6 +132,24 @@ class CSSEditorSrcView final : public SourceViewEvents {
     /// Asks for a line and goes there. A number beyond the lines by more than one is ignored.
     void GotoLine();
 
+    // Type-ahead: a list of what may be typed comes up a second after a key at a place where there is something to
+    // offer, and at once when it is asked for.
+
+    /// For a typed character; the key 0 without Control is the request for a list at once, which is granted also where
+    /// type-ahead is switched off.
+    void StartTypeAhead(std::int16_t key, bool isControlHeld);
+
+    /// Offers what the place of the caret takes.
+    void TypeAhead();
+
+    /// Offers names (`type` 19) that begin with `first`, or values (21) of the property `first` that begin with
+    /// `second`. Nothing happens where there is none, or just the one that is typed already. `top` and `left` are
+    /// pixels of the screen.
+    void GetTypeAheadValue(int type, TextView first, TextView second, int top, int left);
+
+    /// Writes a choice from the list that `TypeAheadReturnType` stands for, as one step to undo; "" changes nothing.
+    void SetTypeAheadChoice(TextView choice);
+
     // Menus and status bar.
 
     void UpdateMenu();
@@ -211,6 +233,8 @@ class CSSEditorSrcView final : public SourceViewEvents {
     Clipboard& clipboard_;
     EditorDialogs& dialogs_;
     SettingsStore& settings_;
+    TypeAheadPopup& typeAheadPopup_;
+    std::unique_ptr<DelayTimer> typeAheadDelay_;
 };
 
 }  // namespace tintora

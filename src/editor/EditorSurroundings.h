@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/FrontDocument.h"
 #include "text/Text.h"
 
 #include <optional>
@@ -8,11 +9,9 @@
 /// What the source editor calls outside of itself and its text control.
 namespace tintora {
 
-/// The document window that the editor is a part of.
-class EditorParent {
+/// The document window that the editor is a part of. As long as somebody types in it, it is the document in front.
+class EditorParent : public FrontDocument {
   public:
-    virtual ~EditorParent() = default;
-
     virtual void TextChanged() = 0;
     virtual void SelectionChanged() = 0;
     virtual void DeleteKeyDown() = 0;
@@ -24,6 +23,9 @@ class EditorParent {
     /// Behind an undo.
     virtual void Undo() = 0;
     virtual void SetNeedsUpdating(bool needsUpdating) = 0;
+
+    /// Keeps the palettes from being updated until the next key comes up.
+    virtual void DisableUpdates() = 0;
 
     virtual void NewStatement(TextView kind) = 0;
     virtual void EditStatement() = 0;
@@ -84,6 +86,19 @@ class EditorDialogs {
     [[nodiscard]] virtual Text ChooseFromMenu(const std::vector<ContextMenuEntry>& entries) = 0;
 
     virtual void ShowMessage(TextView title, TextView text) = 0;
+};
+
+/// The list of what may be typed, in a window of its own at the caret.
+class TypeAheadPopup {
+  public:
+    virtual ~TypeAheadPopup() = default;
+
+    /// Whether the text has the focus, so that a list may take it.
+    [[nodiscard]] virtual bool CanOpen() const = 0;
+
+    /// Shows a list that has the focus until it closes itself, and returns at once. `partial` is what is typed of an
+    /// item; `top` and `left` are where the list goes, in pixels of the screen. Whoever made it hears of the choice.
+    virtual void GetTypeAheadValue(const Texts& list, TextView partial, int top, int left) = 0;
 };
 
 }  // namespace tintora

@@ -33,6 +33,7 @@ class MemorySourceView final : public SourceView, private SourceBuffer {
     void SelectRange(const SelectionRange& range) override;
     void ScrollToPosition(int, int) override {}
     [[nodiscard]] PixelPosition PositionToPixels(int column, int row) const override { return {column, row}; }
+    [[nodiscard]] PixelPosition ClientToScreen(PixelPosition position) const override { return position; }
     [[nodiscard]] TokenInfo GetTokenInfo(int column, int row) override;
     void CutSelection() override;
     void CopySelection() override;

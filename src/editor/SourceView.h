@@ -33,7 +33,7 @@ struct TokenInfo {
     friend bool operator==(const TokenInfo&, const TokenInfo&) = default;
 };
 
-/// Pixels of the control's own area.
+/// Pixels of the control's own area, where nothing else is said.
 struct PixelPosition {
     int x = 0;
     int y = 0;
@@ -187,6 +187,9 @@ class SourceView {
     virtual void SelectRange(const SelectionRange& range) = 0;
     virtual void ScrollToPosition(int row, int column) = 0;
     [[nodiscard]] virtual PixelPosition PositionToPixels(int column, int row) const = 0;
+
+    /// The same place in pixels of the screen.
+    [[nodiscard]] virtual PixelPosition ClientToScreen(PixelPosition position) const = 0;
     [[nodiscard]] virtual TokenInfo GetTokenInfo(int column, int row) = 0;
 
     virtual void CutSelection() = 0;

@@ -65,6 +65,19 @@ bool IsWorthOffering(const Texts& items, TextView partial) noexcept {
 
 Texts RowsToShow(const Texts& rows, TextView currentValue) { return ItemsBeginningWith(rows, LowerCase(currentValue)); }
 
+TypeAheadListKey TypeAheadListKeyOf(char16_t character) noexcept {
+    constexpr char16_t Escape = 27;
+    switch (character) {
+        case u'.':
+        case u'\b':
+        case u'\f':
+        case Escape: return TypeAheadListKey::Closes;
+        case u'\t':
+        case u'\r': return TypeAheadListKey::Chooses;
+        default: return TypeAheadListKey::IsTheLists;
+    }
+}
+
 int TypeAheadFormHeight(int rowHeight, int rows) noexcept {
     constexpr int Edge = 30;
     int total = (rowHeight - 1) * rows;

@@ -24,6 +24,17 @@ namespace tintora {
 /// compared as they stand, so that none is left where a row has capitals there.
 [[nodiscard]] Texts RowsToShow(const Texts& rows, TextView currentValue);
 
+/// What a key does to an open list, by the code of its character (0 for a key that gives none).
+enum class TypeAheadListKey {
+    /// Closes it, and nothing is written.
+    Closes,
+    Chooses,
+    /// It is the list's own business: to go to another row.
+    IsTheLists,
+};
+
+[[nodiscard]] TypeAheadListKey TypeAheadListKeyOf(char16_t character) noexcept;
+
 /// Twips, the unit in which a list reckons its height, in a pixel.
 inline constexpr int TwipsPerPixel = 15;
 

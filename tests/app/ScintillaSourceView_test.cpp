@@ -91,6 +91,25 @@ TEST_F(ScintillaViewTest, FourMarksHaveTheirCodesOnEveryLayout) {
     }
 }
 
+TEST_F(ScintillaViewTest, ControlWithSpaceTypesNothing) {
+    Load(u"ab");
+    QTest::keyClick(&view.Control(), Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(events.Take(), QStringList({"Down 17 2", "Down 32 2", "Up 32 2", "Up 17 0"}));
+    EXPECT_EQ(view.GetText(), u"ab");
+    QTest::keyClick(&view.Control(), Qt::Key_Space);
+    EXPECT_EQ(view.GetText(), u" ab");
+}
+
+TEST_F(ScintillaViewTest, APlaceOfTheControlHasAPlaceOnTheScreen) {
+    Load(u"ab\ncd");
+    view.move(50, 70);
+    const PixelPosition start = view.ClientToScreen({0, 0});
+    const PixelPosition place = view.ClientToScreen({30, 40});
+    EXPECT_EQ(QPoint(start.x, start.y), view.Control().viewport()->mapToGlobal(QPoint(0, 0)));
+    EXPECT_EQ(place.x - start.x, 30);
+    EXPECT_EQ(place.y - start.y, 40);
+}
+
 TEST_F(ScintillaViewTest, ReleasesOfAHeldKeyAreNotTold) {
     Load(u"");
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"), true);

@@ -39,6 +39,7 @@ const Texts Names = {u"color", u"margin", u"top", u"COLOR", u"x", u""};
 const Texts Values = {u"red", u"0", u"", u"1px 2px", u"a;b", u"}"};
 const Texts Kinds = {u"Type", u"Comment", u"@ Import Rule", u"@ Media Rule", u"All Form", u"All Table", u"", u"?"};
 const Texts Answers = {u"h2", u"", u"/* n */", u"@import 'x';", u"@media tv", u"p,\r\nq"};
+const Texts Choices = {u"}", u"color", u"red", u"", u"url(a.gif)"};
 
 class RandomWork {
   public:
@@ -60,7 +61,7 @@ class RandomWork {
         const std::size_t reach = window.GetText().size() + 3;
         document.dialogs.answer = Of(Answers);
         document.dialogs.kind = Of(Kinds);
-        switch (Below(36)) {
+        switch (Below(37)) {
             case 0: window.SetSelection(Below(reach) - 1, Below(reach) - 1); break;
             case 1: editor.SetSelectionStart(Below(reach)); break;
             case 2: window.SetSelectionText(Of(Pieces)); break;
@@ -96,6 +97,10 @@ class RandomWork {
             case 32: document.Type(u"r"); break;
             case 33: document.Type(Below(2) == 0 ? u";" : u"}"); break;
             case 34: document.Press(Below(2) == 0 ? key_code::Backspace : key_code::Delete, u'\0'); break;
+            case 35:
+                editor.TypeAheadReturnType = Below(2) == 0 ? 19 : 21;
+                window.SetTypeAheadChoice(Of(Choices));
+                break;
             default: document.Wait(Below(1600)); break;
         }
         document.calls.clear();

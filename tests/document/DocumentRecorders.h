@@ -218,6 +218,23 @@ class MemoryRecovery final : public RecoveryCopies {
     int nameCount_ = 0;
 };
 
+/// A list that opens and is left alone.
+class RecordingPopup final : public TypeAheadPopup {
+  public:
+    explicit RecordingPopup(Calls& calls) : calls_(calls) {}
+
+    [[nodiscard]] bool CanOpen() const override { return true; }
+    void GetTypeAheadValue(const Texts& offered, TextView partial, int, int) override {
+        list = offered;
+        calls_.push_back("TypeAhead " + Utf8FromText(partial));
+    }
+
+    Texts list;
+
+  private:
+    Calls& calls_;
+};
+
 class TextClipboard final : public Clipboard {
   public:
     [[nodiscard]] bool HasText() const override { return !text_.empty(); }
@@ -257,7 +274,7 @@ class RecordedDocument {
     explicit RecordedDocument(std::unique_ptr<RecoveryCopies> copies)
         : recovery(std::move(copies)),
           window({view, frame, statements, properties, preview, preview, dialogs, files, pages, *recovery, dialogs,
-                  clipboard, settings, clock}) {}
+                  clipboard, settings, clock, popup}) {}
 
     /// The kept recovery copies, of a document that has them in memory.
     [[nodiscard]] std::map<std::string, RecoveryRecord>& Copies() {
@@ -334,6 +351,7 @@ class RecordedDocument {
     ScriptedFiles files{calls};
     ScriptedPages pages{calls};
     std::unique_ptr<RecoveryCopies> recovery;
+    RecordingPopup popup{calls};
     TextClipboard clipboard;
     MemorySettingsStore settings;
     StillClock clock;

@@ -93,7 +93,7 @@ TEST_F(EditorTest, ANewEditorHasHeardOfTheReadyControlAndOfNothingElse) {
 
 TEST_F(EditorTest, AnEditorWhoseControlIsNotReadyIsNotInitialized) {
     view_.handsEventsOn = false;
-    CSSEditorSrcView other({view_, parent_, frame_, clipboard_, dialogs_, settings_});
+    CSSEditorSrcView other({view_, parent_, frame_, clipboard_, dialogs_, settings_, clock_, popup_});
     EXPECT_FALSE(other.Initialized);
     other.Ready();
     EXPECT_TRUE(other.Initialized);
@@ -102,7 +102,7 @@ TEST_F(EditorTest, AnEditorWhoseControlIsNotReadyIsNotInitialized) {
 TEST_F(EditorTest, AnEditorThatIsGoneIsToldNothing) {
     MemorySourceView view(clipboard_);
     {
-        const CSSEditorSrcView other({view, parent_, frame_, clipboard_, dialogs_, settings_});
+        const CSSEditorSrcView other({view, parent_, frame_, clipboard_, dialogs_, settings_, clock_, popup_});
         view.TypeCharacter(u'a');
         EXPECT_EQ(log_.Count("TextChanged"), 1);
     }

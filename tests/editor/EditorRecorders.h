@@ -5,6 +5,7 @@
 #include "RecordingSourceView.h"
 #include "editor/CSSEditorSrcView.h"
 #include "editor/MemorySourceView.h"
+#include "editor/StillClock.h"
 #include "settings/MemorySettingsStore.h"
 #include "text/Encoding.h"
 
@@ -49,6 +50,7 @@ class RecordingParent final : public EditorParent {
     void SetNeedsUpdating(bool needsUpdating) override {
         log_.Add(needsUpdating ? "NeedsUpdating" : "NeedsNoUpdating");
     }
+    void DisableUpdates() override { log_.Add("DisableUpdates"); }
     void NewStatement(TextView kind) override { log_.Add("NewStatement(" + Utf8FromText(kind) + ")"); }
     void EditStatement() override { log_.Add("EditStatement"); }
     void DuplicateStatement() override { log_.Add("DuplicateStatement"); }
@@ -56,7 +58,15 @@ class RecordingParent final : public EditorParent {
     void EditCurrentProperty() override { log_.Add("EditCurrentProperty"); }
     [[nodiscard]] Text GetCurrentPropertyName() override { return currentPropertyName; }
 
+    [[nodiscard]] Texts GetCurrentColors() const override { return colors; }
+    [[nodiscard]] Texts GetCurrentFonts() const override { return fonts; }
+    [[nodiscard]] Texts GetCurrentURLs() const override { return urls; }
+    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
+
     Text currentPropertyName;
+    Texts colors;
+    Texts fonts;
+    Texts urls;
     std::function<void()> whenSelectionChanges;
 
   private:
@@ -103,6 +113,26 @@ class ScriptedDialogs final : public EditorDialogs {
     std::optional<int> lineNumber;
     Text chosenEntry;
     std::vector<ContextMenuEntry> offered;
+
+  private:
+    CallLog& log_;
+};
+
+/// A list of type-ahead that nobody sees. Where one opens, the log has its place: "TypeAhead(left,top)".
+class RecordingPopup final : public TypeAheadPopup {
+  public:
+    explicit RecordingPopup(CallLog& log) : log_(log) {}
+
+    [[nodiscard]] bool CanOpen() const override { return canOpen; }
+    void GetTypeAheadValue(const Texts& offered, TextView typed, int top, int left) override {
+        log_.Add(CallText("TypeAhead", left, top));
+        list = offered;
+        partial = typed;
+    }
+
+    bool canOpen = true;
+    Texts list;
+    Text partial;
 
   private:
     CallLog& log_;
@@ -168,9 +198,11 @@ class EditorTest : public ::testing::Test {
     MemoryClipboard clipboard_;
     ScriptedDialogs dialogs_{log_};
     MemorySettingsStore settings_;
+    StillClock clock_;
+    RecordingPopup popup_{log_};
     MemorySourceView memory_{clipboard_};
     RecordingSourceView view_{memory_, log_};
-    CSSEditorSrcView editor_{{view_, parent_, frame_, clipboard_, dialogs_, settings_}};
+    CSSEditorSrcView editor_{{view_, parent_, frame_, clipboard_, dialogs_, settings_, clock_, popup_}};
 };
 
 }  // namespace tintora::test

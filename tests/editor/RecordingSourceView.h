@@ -71,6 +71,9 @@ class RecordingSourceView final : public SourceView, private SourceBuffer {
     [[nodiscard]] PixelPosition PositionToPixels(int column, int row) const override {
         return inner_.PositionToPixels(column, row);
     }
+    [[nodiscard]] PixelPosition ClientToScreen(PixelPosition position) const override {
+        return inner_.ClientToScreen(position);
+    }
     [[nodiscard]] TokenInfo GetTokenInfo(int column, int row) override { return inner_.GetTokenInfo(column, row); }
     void CutSelection() override { HandOn("CutSelection", &SourceView::CutSelection); }
     void CopySelection() override { HandOn("CopySelection", &SourceView::CopySelection); }

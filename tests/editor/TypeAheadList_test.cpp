@@ -86,6 +86,17 @@ const std::vector<NarrowCase> RowCases = {
     {u"x", u"", false},
 };
 
+struct KeyCase {
+    Text characters;
+    TypeAheadListKey key;
+};
+
+const std::vector<KeyCase> KeyCases = {
+    {u".\x1B\f\b", TypeAheadListKey::Closes},
+    {u"\t\r", TypeAheadListKey::Chooses},
+    {u"abzABZ0129 -_;:{}\n\v\x7F\u00E9", TypeAheadListKey::IsTheLists},
+};
+
 struct HeightCase {
     int rows;
     int height;
@@ -159,6 +170,14 @@ TEST(TypeAheadList, AnOpenListComparesTheLowerCaseOfWhatIsTyped) {
         SCOPED_TRACE(Utf8FromText(row.partial));
         EXPECT_EQ(Bracketed(RowsToShow(Rows, row.partial)), row.found);
     }
+}
+
+TEST(TypeAheadList, EachKeyDoesToAnOpenListWhatTheCasesSay) {
+    for (const KeyCase& row : KeyCases) {
+        for (const char16_t character : row.characters)
+            EXPECT_EQ(TypeAheadListKeyOf(character), row.key) << static_cast<int>(character);
+    }
+    EXPECT_EQ(TypeAheadListKeyOf(u'\0'), TypeAheadListKey::IsTheLists);
 }
 
 TEST(TypeAheadList, AListIsAsHighAsTheCasesSay) {

@@ -24,6 +24,10 @@ int KeyCodeOf(const QKeyEvent& event) {
     return isLatin || key == Qt::Key_Space ? key : 0;
 }
 
+bool IsControlWithSpace(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Space && ShiftStateOf(event.modifiers()) == shift_state::Control;
+}
+
 int ShiftStateOf(Qt::KeyboardModifiers modifiers) {
     return (modifiers.testFlag(Qt::ShiftModifier) ? shift_state::Shift : 0) +
            (modifiers.testFlag(Qt::ControlModifier) ? shift_state::Control : 0) +

@@ -10,6 +10,9 @@ namespace tintora {
 /// gives ";", ":", "]" or "}" comes from the character, on every layout of a keyboard.
 [[nodiscard]] int KeyCodeOf(const QKeyEvent& event);
 
+/// Whether the key is Control with Space, which asks for a list and types nothing.
+[[nodiscard]] bool IsControlWithSpace(const QKeyEvent& event);
+
 /// The state of the shift keys, as `shift_state` sums it.
 [[nodiscard]] int ShiftStateOf(Qt::KeyboardModifiers modifiers);
 

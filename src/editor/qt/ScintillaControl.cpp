@@ -1,5 +1,7 @@
 #include "editor/qt/ScintillaControl.h"
 
+#include "editor/qt/KeyCodes.h"
+
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
@@ -65,7 +67,9 @@ void ScintillaControl::inputMethodEvent(QInputMethodEvent* event) {
 
 void ScintillaControl::keyPressEvent(QKeyEvent* event) {
     events_.KeyPressing(*event);
-    QsciScintilla::keyPressEvent(event);
+    // The control would type a blank.
+    if (!IsControlWithSpace(*event))
+        QsciScintilla::keyPressEvent(event);
     events_.KeyPressed();
 }
 

@@ -306,6 +306,11 @@ PixelPosition ScintillaSourceView::PositionToPixels(int column, int row) const {
             static_cast<int>(control_.SendScintilla(Control::SCI_POINTYFROMPOSITION, 0UL, position))};
 }
 
+PixelPosition ScintillaSourceView::ClientToScreen(PixelPosition position) const {
+    const QPoint place = control_.viewport()->mapToGlobal(QPoint(position.x, position.y));
+    return {place.x(), place.y()};
+}
+
 int ScintillaSourceView::CharWidth() const {
     return static_cast<int>(control_.SendScintilla(Control::SCI_TEXTWIDTH, Word(Control::STYLE_DEFAULT), "0"));
 }
@@ -458,7 +463,7 @@ void ScintillaSourceView::KeyPressing(const QKeyEvent& event) {
     const int code = KeyCodeOf(event);
     codesOfPressedKeys_[event.key()] = code;
     events_->KeyPressedDown(code, ShiftStateOf(event.modifiers()));
-    for (const QChar unit : event.text())
+    for (const QChar unit : IsControlWithSpace(event) ? QString() : event.text())
         events_->CharacterTyped(unit.unicode());
     ++callDepth_;
 }

@@ -46,6 +46,7 @@ class ScintillaSourceView final : public QWidget, public SourceView, private Sou
     void SelectRange(const SelectionRange& range) override;
     void ScrollToPosition(int row, int column) override;
     [[nodiscard]] PixelPosition PositionToPixels(int column, int row) const override;
+    [[nodiscard]] PixelPosition ClientToScreen(PixelPosition position) const override;
     [[nodiscard]] TokenInfo GetTokenInfo(int column, int row) override;
     void CutSelection() override;
     void CopySelection() override;

@@ -25,8 +25,9 @@ StyleSheetPane::StyleSheetPane(const QString& caption, PaneFrame& frame, UserMes
       notice_(new NoticeBar(this)),
       dialogs_(*this, IsBuilt),
       view_(this),
+      typeAheadPopup_(view_, [this](TextView choice) { window_.SetTypeAheadChoice(choice); }),
       window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, messages, messages, recovery, dialogs_,
-               clipboard_, settings, clock_}) {
+               clipboard_, settings, clock_, typeAheadPopup_}) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

@@ -4,6 +4,7 @@
 #include "editor/qt/EditorDialogBoxes.h"
 #include "editor/qt/QtClipboard.h"
 #include "editor/qt/QtClock.h"
+#include "editor/qt/QtTypeAheadPopup.h"
 #include "editor/qt/ScintillaSourceView.h"
 #include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"
@@ -94,6 +95,7 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     EditorDialogBoxes dialogs_;
     UnbuiltPalettes unbuilt_;
     ScintillaSourceView view_;
+    QtTypeAheadPopup typeAheadPopup_;
     ktStyleSheetWindow window_;
 };
 
