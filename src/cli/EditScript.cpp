@@ -2,6 +2,7 @@
 
 #include "cli/HeadlessDocument.h"
 #include "cli/JsonLine.h"
+#include "language/TokenTypes.h"
 #include "text/Encoding.h"
 #include "text/Narrowing.h"
 
@@ -110,6 +111,14 @@ const std::map<std::string, Run>& Operations() {
         {"Copy", OnEditor(&Editor::Copy)},
         {"Paste", OnEditor(&Editor::Paste)},
         {"Clear", OnEditor(&Editor::Clear)},
+        {"SetTypeAheadChoice",
+         [](Document& document, const Operation& arguments) {
+             const int type = arguments.Number("type");
+             if (type != token_type::PropertyName && type != token_type::ValidValue)
+                 throw CommandFailure("SetTypeAheadChoice", "the type is 19 or 21, and not " + std::to_string(type));
+             document.Window().CSSEditor().TypeAheadReturnType = Narrow(type);
+             document.Window().SetTypeAheadChoice(arguments.TextOf("choice"));
+         }},
         {"key",
          [](Document& document, const Operation& arguments) {
              for (const char16_t unit : arguments.TextOf("text"))
