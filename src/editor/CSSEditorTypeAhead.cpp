@@ -52,6 +52,8 @@ void CSSEditorSrcView::GetTypeAheadValue(int type, TextView first, TextView seco
     const Texts list = ItemsBeginningWith(isValue ? TypeAheadValues(first, parent_) : TypeAheadNames(), partial);
     if (!IsWorthOffering(list, partial) || !typeAheadPopup_.CanOpen())
         return;
+    // A list that is waiting still would come up behind this one.
+    typeAheadDelay_->Stop();
     parent_.DisableUpdates();
     // A key that is down now comes up in the list, which has the focus then.
     CtrlKeyDown = false;

@@ -221,6 +221,16 @@ TEST_F(TypeAheadTest, ControlWithSpaceBringsTheListAtOnceSwitchedOffOrOn) {
     EXPECT_EQ(TakeList(), u"[color]");
 }
 
+TEST_F(TypeAheadTest, AListThatIsAskedForTakesThePlaceOfTheOneThatIsWaiting) {
+    Load(u"a {|}");
+    editor_.CharacterTyped(u' ');
+    Wait(500);
+    AskForList();
+    EXPECT_TRUE(HasComeUp());
+    Wait(5000);
+    EXPECT_FALSE(HasComeUp());
+}
+
 TEST_F(TypeAheadTest, OnlyControlWithSpaceAsksForAList) {
     Load(u"a {|}");
     editor_.KeyPressedDown(key_code::Space, 0);
