@@ -4,9 +4,9 @@
 
 namespace tintora {
 
-/// The marks of statements in the palette. Each is drawn as the sign by which CSS tells that kind of selector.
+/// The marks of statements in the palette. Most are drawn as the sign by which CSS tells that kind of selector.
 enum class StatementMark {
-    None,
+    None,         // a hollow dot
     Type,         // < >
     Class,        // .
     ID,           // #
@@ -15,7 +15,7 @@ enum class StatementMark {
     PseudoClass,  // :
     Attribute,    // [ ]
     AtRule,       // @
-    Comment,      // /*
+    Comment,      // a balloon
 };
 
 /// The mark of a statement, by the type of its selector. Every selector that begins with "@" has that of an at-rule,
