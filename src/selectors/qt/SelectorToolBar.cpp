@@ -46,7 +46,10 @@ SelectorToolBar::SelectorToolBar(const IsAvailable& isAvailable, QWidget* parent
             Announce(AddButton(key, text, iconName));
     };
     add(u"miSEdit", QStringLiteral("Edit Statement"), QStringLiteral("document-edit"));
-    add(u"miSDuplicate", QStringLiteral("Duplicate Statement"), QStringLiteral("edit-duplicate"));
+    // Not every theme has an icon for duplicating.
+    const QString duplicate = QStringLiteral("edit-duplicate");
+    add(u"miSDuplicate", QStringLiteral("Duplicate Statement"),
+        QIcon::hasThemeIcon(duplicate) ? duplicate : QStringLiteral("edit-copy"));
     add(u"miSRemove", QStringLiteral("Remove Statement"), QStringLiteral("edit-delete"));
     ShowEnabled();
 }
@@ -59,8 +62,7 @@ QAction* SelectorToolBar::MakeAction(TextView key, const QString& text) {
 
 QAction* SelectorToolBar::AddButton(TextView key, const QString& text, const QString& iconName) {
     QAction* const action = MakeAction(key, text);
-    // Not every theme has an icon for duplicating.
-    action->setIcon(QIcon::fromTheme(iconName, QIcon::fromTheme(QStringLiteral("edit-copy"))));
+    action->setIcon(QIcon::fromTheme(iconName));
     action->setToolTip(text);
     addAction(action);
     widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
