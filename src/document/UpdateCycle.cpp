@@ -172,6 +172,18 @@ void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
     frame_.UpdateMenus();
 }
 
+void ktStyleSheetWindow::FollowCaretNow() {
+    if (!selectionChangedDelay_->IsRunning())
+        return;
+    selectionChangedDelay_->Stop();
+    CatchUpWithText();
+    SelectionChangedEvent(GetSelectionStart());
+}
+
+void ktStyleSheetWindow::PreviewNow() { preview_.PreviewNow(); }
+
+void ktStyleSheetWindow::PreviewCurrentRule() { preview_.PreviewCurrentRule(); }
+
 void ktStyleSheetWindow::EnableMenus() {
     if (!IsInFront())
         return;

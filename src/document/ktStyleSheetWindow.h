@@ -221,6 +221,14 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     /// Brings the palettes to a new place of the caret.
     void SelectionChangedEvent(int offset);
 
+    /// The same for a move of the caret that still waits for its timer: whoever changes the current rule must not
+    /// change the one that the caret has left.
+    void FollowCaretNow();
+
+    /// Previews whether live preview is on or not.
+    void PreviewNow();
+    void PreviewCurrentRule();
+
     /// Before and after the editor has dealt with a key of the text.
     void KeyDown(int code);
     void KeyUp(int code);

@@ -22,7 +22,8 @@ class TypeAheadProgramTest : public test::WindowTest {
         window->show();
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        Pane().SelectText(caret, 0);
+        Pane().Window().SetSelection(caret, caret);
+        Pane().setFocus();
         ASSERT_TRUE(Control().hasFocus());
     }
 

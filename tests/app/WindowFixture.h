@@ -17,6 +17,7 @@ namespace tintora::test {
 struct Told {
     QStringList messages;
     QStringList questions;
+    QStringList addresses;
     FileDialogs::SaveAnswer saveAnswer = FileDialogs::SaveAnswer::No;
     /// Answers of the questions to come, before `saveAnswer` holds.
     std::deque<FileDialogs::SaveAnswer> saveAnswers;
@@ -31,6 +32,7 @@ class RecordedMessages final : public UserMessages {
     explicit RecordedMessages(Told& told) : told_(told) {}
 
     void Tell(const QString& text, const QString&) override { told_.messages.append(text); }
+    void OpenAddress(const QString& address) override { told_.addresses.append(address); }
     void ShowWriteFailure(TextView message) override { told_.messages.append(ToQString(message)); }
     std::optional<Text> AskSavePath(TextView title, TextView proposedName) override {
         told_.questions.append(ToQString(title) + ": " + ToQString(proposedName));

@@ -2,8 +2,8 @@
 
 #include "WindowFixture.h"
 #include "linking/TextFiles.h"
+#include "selectors/qt/SelectorList.h"
 #include "settings/Settings.h"
-#include "shell/qt/StatementList.h"
 #include "text/Narrowing.h"
 
 #include <Qsci/qsciscintilla.h>
@@ -18,7 +18,7 @@ namespace {
 
 class frmMainTest : public test::WindowTest {
   protected:
-    StatementList& Statements() { return *window->findChild<StatementList*>(); }
+    SelectorList& Statements() { return *window->findChild<SelectorList*>(); }
 
     QStringList Selectors() {
         QStringList selectors;
@@ -66,7 +66,7 @@ TEST_F(frmMainTest, TheListFollowsTheTextWithADelay) {
     window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}"));
     window->ActiveDocument()->View().Control().append(QStringLiteral(" h2 {}"));
     EXPECT_EQ(Selectors(), QStringList({"h1"}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Selectors() == QStringList({"h1", "h2"}); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Selectors() == QStringList({"h1", "h2"}); }, 3000));
     EXPECT_TRUE(window->ActiveDocument()->IsDirty());
 }
 

@@ -33,6 +33,17 @@ TEST_F(ActivationTest, ActivatingRestartsTheTimerThatFollowsTheCaret) {
     EXPECT_TRUE(Has(document_.calls, "SelectStatement 2"));
 }
 
+TEST_F(ActivationTest, AMoveOfTheCaretCanBeFollowedAtOnce) {
+    window_.FollowCaretNow();
+    EXPECT_TRUE(document_.calls.empty()) << "nothing waits";
+    window_.SetSelection(0, 0);
+    ASSERT_TRUE(document_.IsRunning(u"SelectionChangedDelay"));
+    window_.FollowCaretNow();
+    EXPECT_TRUE(Has(document_.calls, "SelectStatement 1"));
+    EXPECT_EQ(window_.LastSelectedStatement(), 1);
+    EXPECT_FALSE(document_.IsRunning(u"SelectionChangedDelay"));
+}
+
 TEST_F(ActivationTest, AWindowBehindReadsItsStatementsAndCallsNobody) {
     GoBehind();
     document_.SetLivePreviewOn(true);

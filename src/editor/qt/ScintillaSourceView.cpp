@@ -3,6 +3,7 @@
 #include "editor/Indentation.h"
 #include "editor/qt/FindBar.h"
 #include "editor/qt/KeyCodes.h"
+#include "editor/qt/PageLayout.h"
 #include "text/Encoding.h"
 #include "text/LineEnds.h"
 #include "text/Narrowing.h"
@@ -410,6 +411,7 @@ void ScintillaSourceView::ExecuteCommand(SourceCommand command) { IndentSelected
 
 void ScintillaSourceView::PrintBuffer() {
     QsciPrinter printer;
+    printer.setPageLayout(ChosenPageLayout());
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() == QDialog::Accepted)
         PrintTo(printer);

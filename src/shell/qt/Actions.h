@@ -12,10 +12,10 @@ namespace tintora {
 /// freedesktop name ("" for none), its shortcut, and what it does, for the status bar.
 struct ActionLook {
     const char* key;
-    const char* text;
-    const char* icon;
-    QKeySequence shortcut;
-    const char* statusTip;
+    const char* text = "";
+    const char* icon = "";
+    QKeySequence shortcut = {};
+    const char* statusTip = "";
 };
 
 /// An action that looks like that, owned by `parent`. Its tool tip names the shortcut too.

@@ -19,15 +19,16 @@ bool IsBuilt(const ContextMenuEntry& entry) {
 
 }  // namespace
 
-StyleSheetPane::StyleSheetPane(const QString& caption, PaneFrame& frame, UserMessages& messages,
-                               RecoveryCopies& recovery, SettingsStore& settings)
-    : frame_(frame),
+StyleSheetPane::StyleSheetPane(const QString& caption, const PaneSurroundings& surroundings)
+    : frame_(surroundings.frame),
+      statements_(surroundings.statements),
       notice_(new NoticeBar(this)),
       dialogs_(*this, IsBuilt),
       view_(this),
       typeAheadPopup_(view_, [this](TextView choice) { window_.SetTypeAheadChoice(choice); }),
-      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, messages, messages, recovery, dialogs_,
-               clipboard_, settings, clock_, typeAheadPopup_}) {
+      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, surroundings.messages,
+               surroundings.messages, surroundings.recovery, dialogs_, clipboard_, surroundings.settings, clock_,
+               typeAheadPopup_}) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -71,13 +72,18 @@ void StyleSheetPane::DirtyChanged(bool isDirty) {
 }
 
 void StyleSheetPane::StatementsCached() {
-    Q_EMIT StatementsChanged();
-    Q_EMIT CurrentStatementChanged(window_.GetCurrentStatementNumber(window_.GetSelectionStart()));
+    Q_EMIT StatementsRead();
+    // Text can come without a key: dropped, or from an input method. Its statements are to be seen all the same.
+    const std::size_t count = window_.StyleSheet().GetAllStatementsAsTextUnstripped().size();
+    if (frame_.IsActivePane(*this) && count != shownStatements_)
+        window_.UpdateSelectorsPalette();
 }
 
-void StyleSheetPane::SelectText(int start, int length) {
-    window_.SetSelection(start, start + length);
-    view_.setFocus();
+void StyleSheetPane::UpdateSelectors(const Texts& statements, TextView currentSelector) {
+    shownStatements_ = statements.size();
+    statements_.UpdateSelectors(statements, currentSelector);
+    // A list that has been filled anew has nothing selected.
+    statements_.SelectStatement(window_.GetCurrentStatementNumber(window_.GetSelectionStart()));
 }
 
 }  // namespace tintora

@@ -6,6 +6,7 @@
 #include "editor/qt/QtClock.h"
 #include "editor/qt/QtTypeAheadPopup.h"
 #include "editor/qt/ScintillaSourceView.h"
+#include "selectors/FrontStyleSheet.h"
 #include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"
 
@@ -23,16 +24,28 @@ class PaneFrame : public EditorFrame {
     virtual void WindowActivated(StyleSheetPane& pane) = 0;
     virtual void WindowClosed(StyleSheetPane& pane) = 0;
     virtual void EnableDocumentCommands(bool enabled) = 0;
+    virtual void EnableCorePropertiesToolbar(bool enabled) = 0;
+    virtual void SetUpCorePropertiesToolbar(TextView body) = 0;
+
+    /// Brings the pane to the front, with the focus in its text.
+    virtual void BringPaneToFront(StyleSheetPane& pane) = 0;
+};
+
+/// What a pane works with. All of it must outlive the pane.
+struct PaneSurroundings {
+    PaneFrame& frame;
+    StatementsPalette& statements;
+    UserMessages& messages;
+    RecoveryCopies& recovery;
+    SettingsStore& settings;
 };
 
 /// The pane of one open style sheet: its text in the source editor, and the document window behind it.
-class StyleSheetPane : public QWidget, private DocumentFrame, private StatementsPalette {
+class StyleSheetPane : public QWidget, public FrontStyleSheet, private DocumentFrame, private StatementsPalette {
     Q_OBJECT
 
   public:
-    /// All arguments must outlive the pane.
-    StyleSheetPane(const QString& caption, PaneFrame& frame, UserMessages& messages, RecoveryCopies& recovery,
-                   SettingsStore& settings);
+    StyleSheetPane(const QString& caption, const PaneSurroundings& surroundings);
     ~StyleSheetPane() override;
 
     /// Opens a style sheet, or the one that is embedded in a page. Throws `FileFailure` for a file that can't be read,
@@ -44,7 +57,6 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     [[nodiscard]] QString Caption() const;
     [[nodiscard]] bool IsDirty() const noexcept { return window_.IsDirty(); }
     [[nodiscard]] Text GetText() const { return window_.GetText(); }
-    [[nodiscard]] const ktStyleSheet& StyleSheet() const noexcept { return window_.StyleSheet(); }
     [[nodiscard]] ktStyleSheetWindow& Window() noexcept { return window_; }
     [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return window_.CSSEditor(); }
     [[nodiscard]] ScintillaSourceView& View() noexcept { return view_; }
@@ -55,12 +67,17 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     /// Offers to load the file again if another program has changed it.
     void LookAfterFile();
 
-    /// Selects `length` code units from the 0-based offset `start`, scrolls there, and gives the editor the focus.
-    void SelectText(int start, int length);
+    // FrontStyleSheet
+    void StatementSelected(int number) override { window_.StatementSelected(number); }
+    void NewStatement(TextView kind) override { window_.NewStatement(kind); }
+    void NewComment() override { window_.NewComment(); }
+    void EditStatement() override { window_.EditStatement(); }
+    void DuplicateStatement() override { window_.DuplicateStatement(); }
+    void DeleteStatement() override { window_.DeleteStatement(); }
 
   Q_SIGNALS:
-    void StatementsChanged();
-    void CurrentStatementChanged(int number);
+    /// The statements have been read again from the text.
+    void StatementsRead();
     /// The caption or the dirty mark.
     void CaptionChanged();
 
@@ -74,21 +91,24 @@ class StyleSheetPane : public QWidget, private DocumentFrame, private Statements
     void UpdateMenuItem(TextView key, bool enabled) override { frame_.UpdateMenuItem(key, enabled); }
     void UpdateMenus() override { frame_.UpdateMenus(); }
     void SetStatusBarText(TextView pane, TextView text) override { frame_.SetStatusBarText(pane, text); }
-    void EnableCorePropertiesToolbar(bool) override {}
-    void SetUpCorePropertiesToolbar(TextView) override {}
+    void EnableCorePropertiesToolbar(bool enabled) override { frame_.EnableCorePropertiesToolbar(enabled); }
+    void SetUpCorePropertiesToolbar(TextView body) override { frame_.SetUpCorePropertiesToolbar(body); }
     void StatementsCached() override;
     void DirtyChanged(bool isDirty) override;
     void SetCaption(TextView) override { Q_EMIT CaptionChanged(); }
-    void BringDocumentToFront() override { view_.setFocus(); }
+    void BringDocumentToFront() override { frame_.BringPaneToFront(*this); }
 
-    // StatementsPalette: the list of statements follows the signals.
-    [[nodiscard]] bool IsOpen() const override { return true; }
-    void UpdateSelectors(const Texts&, TextView) override { Q_EMIT StatementsChanged(); }
-    void SelectStatement(int number) override { Q_EMIT CurrentStatementChanged(number); }
+    // StatementsPalette
+    [[nodiscard]] bool IsOpen() const override { return statements_.IsOpen(); }
+    void UpdateSelectors(const Texts& statements, TextView currentSelector) override;
+    void SelectStatement(int number) override { statements_.SelectStatement(number); }
 
     void SetUpNotice();
 
     PaneFrame& frame_;
+    StatementsPalette& statements_;
+    /// How many statements the palette was told of last.
+    std::size_t shownStatements_ = 0;
     NoticeBar* notice_;
     QtClock clock_;
     QtClipboard clipboard_;

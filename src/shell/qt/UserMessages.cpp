@@ -5,12 +5,14 @@
 #include "text/qt/QtText.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QUrl>
 #include <QWidget>
 
 namespace tintora {
@@ -47,6 +49,11 @@ void MessageBoxes::Tell(const QString& text, const QString& details) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Tintora"), text, QMessageBox::Ok, &window_);
     box.setInformativeText(details);
     box.exec();
+}
+
+void MessageBoxes::OpenAddress(const QString& address) {
+    if (!QDesktopServices::openUrl(QUrl(address)))
+        Tell(QStringLiteral("No browser could be started."), address);
 }
 
 void MessageBoxes::ShowWriteFailure(TextView message) {

@@ -14,6 +14,9 @@ namespace tintora {
 /// What the program says to the user in a box of its own, and what it asks.
 class UserMessages : public FileDialogs, public PageDialogs {
   public:
+    /// Opens a page of the web in the user's browser.
+    virtual void OpenAddress(const QString& address) = 0;
+
     /// What is to be done about a recovery copy.
     enum class RecoveryAnswer { Recover, Discard, Later };
 
@@ -32,6 +35,7 @@ class MessageBoxes final : public UserMessages {
     explicit MessageBoxes(QWidget& window) : window_(window) {}
 
     void Tell(const QString& text, const QString& details) override;
+    void OpenAddress(const QString& address) override;
     void ShowWriteFailure(TextView message) override;
     [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName) override;
     [[nodiscard]] SaveAnswer AskSaveChanges(TextView title, TextView question) override;

@@ -1,8 +1,8 @@
 #include "shell/qt/frmMain.h"
 
+#include "selectors/qt/ktSelectorPalette.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/FormStrings.h"
-#include "shell/qt/StatementList.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "text/Narrowing.h"
@@ -10,13 +10,11 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QMimeData>
 #include <QStatusBar>
-#include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
 #include <cmath>
@@ -26,7 +24,6 @@ namespace tintora {
 namespace {
 
 constexpr float TwipsPerPixel = 15;
-constexpr int StatementsWidth = 200;
 
 /// Pixels of a stored place; what is larger than any screen is cut.
 int Pixels(float twips) {
@@ -40,17 +37,20 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
     : store_(store),
       recovery_(recovery),
       settings_(store),
+      recent_(store),
       messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
       documents_(new QTabWidget(this)),
-      statements_(new StatementList(this)),
+      statements_(nullptr),
       caretPosition_(new QLabel(this)),
       format_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tintora"));
     setAcceptDrops(true);
+    SetUpHandlers();
     SetUpPanes();
     SetUpStatusBar();
-    SetUpActions();
+    SetUpMenus();
+    SetUpToolbars();
     EnableDocumentCommands(false);
     // Whether there is something to paste may change without anything happening here.
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
@@ -61,25 +61,10 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
 }
 
 frmMain::~frmMain() {
-    // The panes go with the window; none of them is worth following on the way.
-    statements_->Follow(nullptr);
+    // The panes go with the window; none of them comes to the front on the way.
     documents_->disconnect(this);
-}
-
-void frmMain::SetUpPanes() {
-    documents_->setDocumentMode(true);
-    documents_->setTabsClosable(true);
-    documents_->setMovable(true);
-    documents_->setAccessibleName(QStringLiteral("Open style sheets"));
-    setCentralWidget(documents_);
-    connect(documents_, &QTabWidget::tabCloseRequested, this, &frmMain::ClosePane);
-    connect(documents_, &QTabWidget::currentChanged, this, &frmMain::PaneActivated);
-
-    auto* const dock = new QDockWidget(QStringLiteral("Statements"), this);
-    dock->setObjectName(QStringLiteral("dwSelectorsEditor"));
-    dock->setWidget(statements_);
-    addDockWidget(Qt::LeftDockWidgetArea, dock);
-    resizeDocks({dock}, {StatementsWidth}, Qt::Horizontal);
+    qApp->disconnect(this);
+    statements_->SetFrontStyleSheet(nullptr);
 }
 
 void frmMain::LoadStep(TextView file) {
@@ -136,10 +121,9 @@ void frmMain::SetStatusBarText(TextView pane, TextView text) {
         statusBar()->showMessage(ToQString(text));
 }
 
-void frmMain::UpdateMenuItem(TextView key, bool enabled) {
-    if (auto* const action = findChild<QAction*>(ToQString(key)))
-        action->setEnabled(enabled);
-}
+void frmMain::EnableCorePropertiesToolbar(bool) {}
+
+void frmMain::SetUpCorePropertiesToolbar(TextView) {}
 
 void frmMain::BringToFront() {
     if (isMinimized())

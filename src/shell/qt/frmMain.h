@@ -1,13 +1,13 @@
 #pragma once
 
-#include "editor/EditorSurroundings.h"
 #include "settings/Settings.h"
+#include "shell/CommandHandlers.h"
+#include "shell/RecentFiles.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "text/Text.h"
 
 #include <QMainWindow>
-#include <functional>
 #include <memory>
 #include <set>
 #include <vector>
@@ -15,14 +15,16 @@
 class QLabel;
 class QMenu;
 class QTabWidget;
-class QToolBar;
 
 namespace tintora {
 
-class StatementList;
+class ktSelectorPalette;
 struct ActionLook;
+struct MenuLook;
 
-/// The main window: the open style sheets in tabs, and the list of the front one's statements beside them.
+/// The main window: the open style sheets in tabs, the palettes around them, and the commands.
+///
+/// Its parts lie in files of their own: menus and toolbars, what the commands do, the open style sheets, the panes.
 class frmMain : public QMainWindow, private PaneFrame {
     Q_OBJECT
 
@@ -48,7 +50,10 @@ class frmMain : public QMainWindow, private PaneFrame {
     void KeepRecoveryCopies();
 
     /// Opens a new, empty style sheet.
-    void LoadNewDoc();
+    void LoadNewDoc() { OpenNewStyleSheet({}); }
+
+    /// Opens a new style sheet with this text, which counts as unsaved unless it is "".
+    StyleSheetPane* OpenNewStyleSheet(TextView text);
 
     /// Brings the window before all others of the screen.
     void BringToFront();
@@ -65,6 +70,9 @@ class frmMain : public QMainWindow, private PaneFrame {
     /// The pane in front, `nullptr` if there is none.
     [[nodiscard]] StyleSheetPane* ActiveDocument() const;
 
+    /// "Document" or "Editor": whether the documents or the palettes took the focus last.
+    [[nodiscard]] TextView CurrentForm() const noexcept { return currentForm_; }
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -73,55 +81,76 @@ class frmMain : public QMainWindow, private PaneFrame {
 
   private:
     // PaneFrame
-    [[nodiscard]] bool IsActivePane(const StyleSheetPane& pane) const override;
+    [[nodiscard]] bool IsActivePane(const StyleSheetPane& pane) const override { return ActiveDocument() == &pane; }
     void WindowActivated(StyleSheetPane& pane) override;
     void WindowClosed(StyleSheetPane& pane) override;
     void EnableDocumentCommands(bool enabled) override;
+    void EnableCorePropertiesToolbar(bool enabled) override;
+    void SetUpCorePropertiesToolbar(TextView body) override;
+    void BringPaneToFront(StyleSheetPane& pane) override;
 
     // EditorFrame
-    [[nodiscard]] bool IsDocumentInFront() const override { return true; }
+    [[nodiscard]] bool IsDocumentInFront() const override { return currentForm_ == u"Document"; }
     void UpdateMenuItem(TextView key, bool enabled) override;
     void UpdateMenus() override;
     void SetStatusBarText(TextView pane, TextView text) override;
 
-    void SetUpPanes();
     void SetUpStatusBar();
-    void SetUpActions();
-    QAction* AddAction(QMenu& menu, const ActionLook& look, std::function<void()> onTriggered);
-    QAction* AddDocumentAction(QMenu& menu, const ActionLook& look, void (ktStyleSheetWindow::*command)());
-    QAction* AddEditorAction(QMenu& menu, const ActionLook& look, void (CSSEditorSrcView::*command)());
-    void SetUpFileMenu(QToolBar& standard);
-    void SetUpPageCommands(QMenu& file);
-    void SetUpEditMenu(QToolBar& standard);
-    void SetUpStatementMenu();
-    void SetUpWindowMenu();
     void SetLocation();
     void SaveLocationOnClose();
+
+    // Panes.
+    void SetUpPanes();
+    void FollowFocus(const QWidget* now);
+    void GoToNextPane();
+    void GoToDocument(int step);
+
+    // Menus and toolbars.
+    void SetUpMenus();
+    void FillMenu(QMenu& menu, const MenuLook& look);
+    void AddEntry(QMenu& menu, const ActionLook& look);
+    void AddSubmenu(QMenu& menu, const MenuLook& look);
+    void FillOnlineMenu(QMenu& menu);
+    void SetUpToolbars();
+    [[nodiscard]] QAction* FindAction(TextView key) const;
+    /// Runs the command of a key; a key that is no command does nothing.
+    void RunCommand(TextView key);
+
+    // What the commands do.
+    void SetUpHandlers();
+    void SetUpFileHandlers();
+    void SetUpEditHandlers();
+    void SetUpStatementHandlers();
+    void SetUpWindowHandlers();
+    void SetUpHelpHandlers();
+    void HandleForDocument(CommandOperation operation, void (ktStyleSheetWindow::*command)());
+    void HandleForEditor(CommandOperation operation, void (CSSEditorSrcView::*command)());
+
+    // The open style sheets.
     void AskForStyleSheet();
-    StyleSheetPane* OpenNewStyleSheet();
     void LoadInto(StyleSheetPane& pane, TextView path);
     void SaveStyleSheet();
-    void SaveStyleSheetAs();
     void SaveAllStyleSheets();
     void ClosePane(int index);
     void RemovePane(StyleSheetPane* pane);
     void PaneActivated();
+    void UpdateCaption(const StyleSheetPane* pane);
     void Recover(const LeftCopy& copy);
     void FinishWriting(const LeftCopy& copy);
-    void UpdateCaption(const StyleSheetPane* pane);
 
     SettingsStore& store_;
     RecoveryCopies& recovery_;
     Settings settings_;
+    RecentFiles recent_;
     std::unique_ptr<UserMessages> messages_;
+    CommandHandlers handlers_;
     QTabWidget* documents_;
-    StatementList* statements_;
+    ktSelectorPalette* statements_;
     QLabel* caretPosition_;
     QLabel* format_;
     std::vector<StyleSheetPane*> openDocuments_;
     std::set<const StyleSheetPane*> reportedAsTooLong_;
-    /// The actions that act on the front document and have no rule of their own.
-    std::vector<QAction*> documentActions_;
+    TextView currentForm_ = u"Document";
     int newDocumentCount_ = 0;
 };
 

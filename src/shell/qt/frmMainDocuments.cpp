@@ -4,7 +4,7 @@
 #include "linking/HtmlStyle.h"
 #include "linking/TextFiles.h"
 #include "linking/TextWriting.h"
-#include "shell/qt/StatementList.h"
+#include "selectors/qt/ktSelectorPalette.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/frmMain.h"
@@ -34,8 +34,10 @@ void frmMain::AskForStyleSheet() {
                                                        : QFileInfo(ToQString(ActiveDocument()->File())).absolutePath();
     const QString chosen =
         QFileDialog::getOpenFileName(this, QStringLiteral("Open"), folder, QString::fromUtf8(OpenFilter));
-    if (!chosen.isEmpty())
-        OpenOneStyleSheet(ToText(chosen));
+    if (chosen.isEmpty())
+        return;
+    OpenOneStyleSheet(ToText(chosen));
+    recent_.Add(ToText(chosen));
 }
 
 void frmMain::OpenOneStyleSheet(TextView path) {
@@ -47,7 +49,7 @@ void frmMain::OpenOneStyleSheet(TextView path) {
         documents_->setCurrentWidget(*open);
         return;
     }
-    StyleSheetPane* const pane = OpenNewStyleSheet();
+    StyleSheetPane* const pane = OpenNewStyleSheet({});
     try {
         LoadInto(*pane, path);
     } catch (const FileFailure& failure) {
@@ -72,24 +74,25 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
     UpdateCaption(&pane);
 }
 
-StyleSheetPane* frmMain::OpenNewStyleSheet() {
+StyleSheetPane* frmMain::OpenNewStyleSheet(TextView text) {
     ++newDocumentCount_;
-    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_), *this,
-                                          *messages_, recovery_, store_);
+    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_),
+                                          {*this, *statements_, *messages_, recovery_, store_});
     connect(pane, &StyleSheetPane::CaptionChanged, this, [this, pane] { UpdateCaption(pane); });
-    connect(pane, &StyleSheetPane::StatementsChanged, this, [this, pane] { reportedAsTooLong_.erase(pane); });
+    connect(pane, &StyleSheetPane::StatementsRead, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
     documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
     UpdateCaption(pane);
     pane->setFocus();
+    if (!text.empty())
+        pane->Window().SetDirty(true);
+    pane->Window().SetText(text);
     return pane;
 }
 
-void frmMain::LoadNewDoc() { OpenNewStyleSheet(); }
-
 void frmMain::PaneActivated() {
     StyleSheetPane* const pane = ActiveDocument();
-    statements_->Follow(pane);
+    statements_->SetFrontStyleSheet(pane);
     UpdateCaption(pane);
     if (pane == nullptr) {
         caretPosition_->clear();
@@ -101,14 +104,25 @@ void frmMain::PaneActivated() {
     }
 }
 
-bool frmMain::IsActivePane(const StyleSheetPane& pane) const { return ActiveDocument() == &pane; }
-
 void frmMain::WindowActivated(StyleSheetPane& pane) {
     std::erase(openDocuments_, &pane);
     openDocuments_.insert(openDocuments_.begin(), &pane);
 }
 
 void frmMain::WindowClosed(StyleSheetPane& pane) { std::erase(openDocuments_, &pane); }
+
+void frmMain::BringPaneToFront(StyleSheetPane& pane) {
+    documents_->setCurrentWidget(&pane);
+    pane.setFocus();
+}
+
+void frmMain::GoToDocument(int step) {
+    const int count = documents_->count();
+    if (count > 0)
+        documents_->setCurrentIndex((documents_->currentIndex() + step + count) % count);
+    if (StyleSheetPane* const pane = ActiveDocument())
+        pane->setFocus();
+}
 
 void frmMain::UpdateCaption(const StyleSheetPane* pane) {
     if (pane != nullptr) {
@@ -123,13 +137,11 @@ void frmMain::UpdateCaption(const StyleSheetPane* pane) {
 }
 
 void frmMain::SaveStyleSheet() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().Save();
-}
-
-void frmMain::SaveStyleSheetAs() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().SaveAs();
+    StyleSheetPane* const pane = ActiveDocument();
+    if (pane == nullptr)
+        return;
+    pane->Window().Save();
+    recent_.Add(pane->File());
 }
 
 void frmMain::SaveAllStyleSheets() {
@@ -137,11 +149,6 @@ void frmMain::SaveAllStyleSheets() {
         if (pane->IsDirty())
             pane->Window().Save();
     }
-}
-
-void frmMain::UpdateMenus() {
-    if (StyleSheetPane* const pane = ActiveDocument())
-        pane->Window().UpdateMenus();
 }
 
 void frmMain::ClosePane(int index) {
@@ -152,8 +159,9 @@ void frmMain::ClosePane(int index) {
 
 void frmMain::RemovePane(StyleSheetPane* pane) {
     pane->Window().Unload();
+    if (statements_->GetFrontStyleSheet() == pane)
+        statements_->SetFrontStyleSheet(nullptr);
     reportedAsTooLong_.erase(pane);
-    statements_->Follow(nullptr);
     documents_->removeTab(documents_->indexOf(pane));
     pane->deleteLater();
     PaneActivated();
@@ -196,7 +204,7 @@ void frmMain::Recover(const LeftCopy& copy) {
         FinishWriting(copy);
         return;
     }
-    OpenNewStyleSheet()->Window().Recover(copy.name, copy.record);
+    OpenNewStyleSheet({})->Window().Recover(copy.name, copy.record);
 }
 
 void frmMain::FinishWriting(const LeftCopy& copy) {

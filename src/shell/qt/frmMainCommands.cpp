@@ -1,0 +1,106 @@
+// What the commands do.
+
+#include "editor/qt/PageLayout.h"
+#include "shell/qt/frmMain.h"
+#include "shell/qt/frmSplash.h"
+
+#include <QDockWidget>
+#include <QTabWidget>
+
+namespace tintora {
+
+using enum CommandOperation;
+
+void frmMain::SetUpHandlers() {
+    SetUpFileHandlers();
+    SetUpEditHandlers();
+    SetUpStatementHandlers();
+    SetUpWindowHandlers();
+    SetUpHelpHandlers();
+}
+
+void frmMain::HandleForDocument(CommandOperation operation, void (ktStyleSheetWindow::*command)()) {
+    handlers_.Set(operation, [this, command](const Command&) {
+        if (StyleSheetPane* const pane = ActiveDocument())
+            (pane->Window().*command)();
+    });
+}
+
+void frmMain::HandleForEditor(CommandOperation operation, void (CSSEditorSrcView::*command)()) {
+    handlers_.Set(operation, [this, command](const Command&) {
+        if (StyleSheetPane* const pane = ActiveDocument())
+            (pane->CSSEditor().*command)();
+    });
+}
+
+void frmMain::SetUpFileHandlers() {
+    handlers_.Set(CommandOperation::LoadNewDoc, [this](const Command&) { LoadNewDoc(); });
+    handlers_.Set(OpenStyleSheet, [this](const Command&) { AskForStyleSheet(); });
+    handlers_.Set(ClearOpenMenu, [this](const Command&) { recent_.Clear(); });
+    handlers_.Set(CloseWindow, [this](const Command&) { ClosePane(documents_->currentIndex()); });
+    handlers_.Set(CommandOperation::SaveStyleSheet, [this](const Command&) { SaveStyleSheet(); });
+    HandleForDocument(SaveStyleSheetAs, &ktStyleSheetWindow::SaveAs);
+    handlers_.Set(CommandOperation::SaveAllStyleSheets, [this](const Command&) { SaveAllStyleSheets(); });
+    HandleForDocument(LinkStyleSheet, &ktStyleSheetWindow::LinkPage);
+    HandleForDocument(LinkSite, &ktStyleSheetWindow::LinkSite);
+    HandleForDocument(EmbedStylesheet, &ktStyleSheetWindow::EmbedInPage);
+    HandleForEditor(PrintStyleSheet, &CSSEditorSrcView::PrintStyleSheet);
+    handlers_.Set(PageSetup, [this](const Command&) { AskPageLayout(this); });
+    handlers_.Set(Exit, [this](const Command&) { close(); });
+}
+
+void frmMain::SetUpEditHandlers() {
+    // The palettes that there are have nothing to cut, copy, paste or clear.
+    const auto route = [this](CommandOperation operation, void (CSSEditorSrcView::*command)()) {
+        handlers_.Set(operation, [this, command](const Command&) {
+            StyleSheetPane* const pane = ActiveDocument();
+            if (pane != nullptr && IsDocumentInFront())
+                (pane->CSSEditor().*command)();
+        });
+    };
+    route(Cut, &CSSEditorSrcView::Cut);
+    route(Copy, &CSSEditorSrcView::Copy);
+    route(Paste, &CSSEditorSrcView::Paste);
+    route(Clear, &CSSEditorSrcView::Clear);
+    const auto undo = [this](CommandOperation operation, void (CSSEditorSrcView::*command)()) {
+        handlers_.Set(operation, [this, command](const Command&) {
+            StyleSheetPane* const pane = ActiveDocument();
+            if (pane == nullptr)
+                return;
+            (pane->CSSEditor().*command)();
+            pane->Window().PreviewNow();
+        });
+    };
+    undo(Undo, &CSSEditorSrcView::Undo);
+    undo(Redo, &CSSEditorSrcView::Redo);
+    HandleForEditor(SelectAll, &CSSEditorSrcView::SelectAll);
+    HandleForEditor(Find, &CSSEditorSrcView::Find);
+    HandleForEditor(FindAgain, &CSSEditorSrcView::FindAgain);
+    HandleForEditor(Replace, &CSSEditorSrcView::Replace);
+    HandleForEditor(GotoLine, &CSSEditorSrcView::GotoLine);
+    HandleForEditor(CommentOut, &CSSEditorSrcView::CommentOut);
+    HandleForEditor(Indent, &CSSEditorSrcView::Indent);
+    HandleForEditor(Outdent, &CSSEditorSrcView::Outdent);
+    HandleForDocument(FormatStyleSheetText, &ktStyleSheetWindow::FormatStyleSheetText);
+}
+
+void frmMain::SetUpStatementHandlers() {
+    handlers_.Set(NewStatement, [this](const Command& command) {
+        if (StyleSheetPane* const pane = ActiveDocument())
+            pane->Window().NewStatement(command.parameter);
+    });
+    HandleForDocument(DuplicateStatement, &ktStyleSheetWindow::DuplicateStatement);
+    HandleForDocument(RemoveStatement, &ktStyleSheetWindow::DeleteStatement);
+}
+
+void frmMain::SetUpWindowHandlers() {
+    handlers_.SetOwn(u"miWNextPane", [this] { GoToNextPane(); });
+    handlers_.SetOwn(u"miWNextDocument", [this] { GoToDocument(1); });
+    handlers_.SetOwn(u"miWPreviousDocument", [this] { GoToDocument(-1); });
+}
+
+void frmMain::SetUpHelpHandlers() {
+    handlers_.Set(About, [this](const Command&) { frmSplash(this).exec(); });
+}
+
+}  // namespace tintora

@@ -1,0 +1,97 @@
+// The panes around the style sheets, and where the focus is among them.
+
+#include "selectors/SelectorCommands.h"
+#include "selectors/qt/ktSelectorPalette.h"
+#include "shell/qt/frmMain.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <algorithm>
+#include <iterator>
+
+namespace tintora {
+
+namespace {
+
+constexpr int StatementsWidth = 200;
+
+/// Whether an item of the palette of statements does something: the forms that the others open aren't there yet.
+bool IsBuilt(TextView key) {
+    const auto items = SelectorItems();
+    const auto item = std::find_if(items.begin(), items.end(), [=](const SelectorItem& any) { return any.key == key; });
+    if (item == items.end())
+        return false;
+    switch (item->command) {
+        case StatementCommand::DuplicateStatement:
+        case StatementCommand::DeleteStatement: return true;
+        case StatementCommand::NewStatement: return item->kind.starts_with(u"All ");
+        default: return false;
+    }
+}
+
+}  // namespace
+
+void frmMain::SetUpPanes() {
+    documents_->setDocumentMode(true);
+    documents_->setTabsClosable(true);
+    documents_->setMovable(true);
+    documents_->setAccessibleName(QStringLiteral("Open style sheets"));
+    setCentralWidget(documents_);
+    connect(documents_, &QTabWidget::tabCloseRequested, this, &frmMain::ClosePane);
+    connect(documents_, &QTabWidget::currentChanged, this, &frmMain::PaneActivated);
+
+    statements_ = new ktSelectorPalette(this, IsBuilt);
+    auto* const dock = new QDockWidget(QStringLiteral("Statements"), this);
+    dock->setObjectName(QStringLiteral("dwSelectorsEditor"));
+    dock->setWidget(statements_);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    resizeDocks({dock}, {StatementsWidth}, Qt::Horizontal);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) { FollowFocus(now); });
+}
+
+void frmMain::FollowFocus(const QWidget* now) {
+    if (now == nullptr || now->window() != this)
+        return;
+    const bool isInDocument = documents_->isAncestorOf(now);
+    bool isInToolbar = false;
+    for (const QToolBar* const bar : findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
+        isInToolbar = isInToolbar || bar->isAncestorOf(now);
+    // What is changed from there must not go into the rule that the caret has left.
+    if (StyleSheetPane* const pane = ActiveDocument(); pane != nullptr && !isInDocument)
+        pane->Window().FollowCaretNow();
+    if (!isInToolbar)
+        currentForm_ = isInDocument ? u"Document" : u"Editor";
+}
+
+void frmMain::GoToNextPane() {
+    std::vector<QWidget*> round;
+    if (ActiveDocument() != nullptr)
+        round.push_back(ActiveDocument());
+    for (const QDockWidget* const dock : findChildren<QDockWidget*>()) {
+        if (dock->isVisible() && !dock->visibleRegion().isEmpty())
+            round.push_back(dock->widget());
+    }
+    if (round.empty())
+        return;
+    const QWidget* const focus = QApplication::focusWidget();
+    const auto here = std::find_if(round.begin(), round.end(), [=](const QWidget* pane) {
+        return focus != nullptr && (pane == focus || pane->isAncestorOf(focus));
+    });
+    const auto next = here == round.end() || std::next(here) == round.end() ? round.begin() : std::next(here);
+    QWidget* target = *next;
+    // A palette without a focus proxy gives the focus to the first of its controls that takes it.
+    if (target->focusPolicy() == Qt::NoFocus && target->focusProxy() == nullptr) {
+        for (QWidget* const control : target->findChildren<QWidget*>()) {
+            if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisible() && control->isEnabled()) {
+                target = control;
+                break;
+            }
+        }
+    }
+    target->setFocus(Qt::TabFocusReason);
+}
+
+}  // namespace tintora
