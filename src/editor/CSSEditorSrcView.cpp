@@ -1,11 +1,11 @@
 #include "editor/CSSEditorSrcView.h"
 
+#include "editor/ColorCoding.h"
 #include "editor/TokenStyles.h"
 #include "text/Narrowing.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 
 namespace tintora {
@@ -37,15 +37,6 @@ class FlagSet {
   private:
     bool& flag_;
 };
-
-/// The types that have styles, in the order in which they are set.
-constexpr auto StyledTypes = std::to_array({24, 19, 20, 17, 23, 21, 2, 6, 25, 26, 27, 28, 32});
-
-SourceStyles::Use UseOf(std::int32_t color) {
-    return color == DefaultTokenColor ? SourceStyles::Use::DefaultColor : SourceStyles::Use::ThisColor;
-}
-
-std::int32_t Shown(std::int32_t color) { return color == DefaultTokenColor ? 0 : color; }
 
 }  // namespace
 
@@ -164,20 +155,12 @@ void CSSEditorSrcView::StoreSelectionStart() {
 }
 
 void CSSEditorSrcView::SetupColorCoding() {
-    textEditor_.Buffer().SetLex(std::make_unique<LexClass>());
-    for (const int type : StyledTypes)
-        SetupTokenStyle(type);
+    tintora::SetupColorCoding(textEditor_, [this](int tokenType) { return GetTokenStyle(settings_, tokenType); });
 }
 
 void CSSEditorSrcView::SetupTokenStyle(int tokenType) {
-    const std::optional<TokenStyle> style = GetTokenStyle(settings_, tokenType);
-    if (!style)
-        return;
-    SourceStyles& styles = textEditor_.Styles();
-    styles.SetForegroundColor(tokenType, Shown(style->textColor), UseOf(style->textColor));
-    styles.SetBackgroundColor(tokenType, Shown(style->backgroundColor), UseOf(style->backgroundColor));
-    styles.SetFontStyle(tokenType,
-                        (style->bold != 0 ? SourceStyles::Bold : 0) + (style->italic != 0 ? SourceStyles::Italic : 0));
+    if (const std::optional<TokenStyle> style = GetTokenStyle(settings_, tokenType))
+        tintora::SetupTokenStyle(textEditor_.Styles(), tokenType, *style);
 }
 
 void CSSEditorSrcView::UpdateColorCoding() {
