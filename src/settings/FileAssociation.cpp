@@ -1,5 +1,6 @@
 #include "settings/FileAssociation.h"
 
+#include "settings/Settings.h"
 #include "text/Whitespace.h"
 
 namespace tintora {
@@ -17,5 +18,11 @@ bool IsDefaultCSSEditor(const DesktopAssociations& desktop) {
 }
 
 void MakeDefaultCSSEditor(DesktopAssociations& desktop) { desktop.SetDefault(StyleSheetType, DesktopFile); }
+
+void OfferDefaultCSSEditor(SettingsStore& store, const DesktopAssociations& desktop,
+                           const std::function<void()>& askDefault) {
+    if (Settings(store).GetAskToMakeDefaultCSSEditor() && !IsDefaultCSSEditor(desktop))
+        askDefault();
+}
 
 }  // namespace tintora

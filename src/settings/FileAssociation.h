@@ -1,7 +1,9 @@
 #pragma once
 
+#include "settings/SettingsStore.h"
 #include "text/Text.h"
 
+#include <functional>
 #include <optional>
 
 namespace tintora {
@@ -25,5 +27,10 @@ class DesktopAssociations {
 
 /// Makes this program the default editor of style sheets.
 void MakeDefaultCSSEditor(DesktopAssociations& desktop);
+
+/// At start-up: calls `askDefault` if the user may be asked whether this program shall be the default editor of style
+/// sheets, and it isn't yet. The desktop is asked only where the user may be. What the answer means is up to who asks.
+void OfferDefaultCSSEditor(SettingsStore& store, const DesktopAssociations& desktop,
+                           const std::function<void()>& askDefault);
 
 }  // namespace tintora
