@@ -1,9 +1,12 @@
 #include "settings/FileAssociation.h"
 #include "settings/MemorySettingsStore.h"
 #include "settings/SettingKeys.h"
+#include "text/Encoding.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <vector>
 
 namespace tintora {
@@ -76,6 +79,15 @@ TEST(DefaultEditorOffer, IsNotMadeAgainOnceThisProgramIsTheDefault) {
     OfferDefaultCSSEditor(store, desktop, askDefault);
     OfferDefaultCSSEditor(store, desktop, askDefault);
     EXPECT_EQ(asked, 1);
+}
+
+TEST(DefaultEditorOffer, TheDesktopFileThatIsMadeTheDefaultIsInstalledAndOpensStyleSheets) {
+    CountingDesktop desktop(u"");
+    MakeDefaultCSSEditor(desktop);
+    std::ifstream file(TINTORA_SAMPLES "/../data/" + Utf8FromText(*desktop.QueryDefault(u"text/css")));
+    const std::string entry{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_NE(entry.find("\nMimeType=text/css;\n"), std::string::npos) << entry;
+    EXPECT_NE(entry.find("\nExec=tintora %f\n"), std::string::npos) << entry;
 }
 
 }  // namespace
