@@ -11,6 +11,8 @@ cleanup() {
   rm -rf "$home"
 }
 trap cleanup EXIT
+# An automatic run: nothing is asked about the default editor.
+export CI=true
 export XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/run XDG_DATA_HOME=$home/data XDG_STATE_HOME=$home/state
 mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_STATE_HOME"
 mkdir -m 700 "$XDG_RUNTIME_DIR"

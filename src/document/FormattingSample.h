@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/Separators.h"
+#include "settings/Separators.h"
 #include "settings/SettingsStore.h"
 #include "text/Text.h"
 

@@ -1,7 +1,7 @@
 #include "shell/qt/options/FormattingTab.h"
 
 #include "OptionsFixture.h"
-#include "document/Separators.h"
+#include "settings/Separators.h"
 #include "text/Whitespace.h"
 
 #include <QClipboard>

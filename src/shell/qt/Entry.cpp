@@ -2,13 +2,16 @@
 
 #include "document/RecoveryFolder.h"
 #include "language/ValueLists.h"
+#include "settings/FileAssociation.h"
 #include "settings/Settings.h"
 #include "settings/qt/IniSettingsStore.h"
+#include "settings/qt/XdgAssociations.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/Application.h"
 #include "shell/qt/InstanceLock.h"
 #include "shell/qt/MessageHook.h"
 #include "shell/qt/PreviousInstance.h"
+#include "shell/qt/dlgDefaultCSSEditor.h"
 #include "shell/qt/frmMain.h"
 #include "text/Encoding.h"
 
@@ -71,8 +74,12 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
             window.OpenOneStyleSheet(path);
         window.BringToFront();
     });
+    XdgAssociations desktop;
     // The loop has to run before a question can be asked.
-    QTimer::singleShot(0, &window, [&] { window.OfferLeftCopies(left); });
+    QTimer::singleShot(0, &window, [&] {
+        window.OfferLeftCopies(left);
+        OfferDefaultCSSEditor(store, desktop, [&] { dlgDefaultCSSEditor(store, desktop, &window).AskDefault(); });
+    });
     const int status = Application::exec();
     application.SetFailureHandlers({}, {});
     return status;

@@ -5,6 +5,7 @@
 #include "shell/RecentFiles.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
+#include "shell/qt/options/OptionsHost.h"
 #include "text/Text.h"
 
 #include <QMainWindow>
@@ -25,7 +26,7 @@ struct MenuLook;
 /// The main window: the open style sheets in tabs, the palettes around them, and the commands.
 ///
 /// Its parts lie in files of their own: menus and toolbars, what the commands do, the open style sheets, the panes.
-class frmMain : public QMainWindow, private PaneFrame {
+class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
     Q_OBJECT
 
   public:
@@ -94,6 +95,10 @@ class frmMain : public QMainWindow, private PaneFrame {
     void UpdateMenuItem(TextView key, bool enabled) override;
     void UpdateMenus() override;
     void SetStatusBarText(TextView pane, TextView text) override;
+
+    // OptionsHost
+    void UpdateColorCoding() override;
+    void FormatAllStyleSheets() override;
 
     void SetUpStatusBar();
     void SetLocation();

@@ -3,6 +3,7 @@
 #include "editor/qt/PageLayout.h"
 #include "shell/qt/frmMain.h"
 #include "shell/qt/frmSplash.h"
+#include "shell/qt/options/frmOptions.h"
 
 #include <QDockWidget>
 #include <QTabWidget>
@@ -46,6 +47,7 @@ void frmMain::SetUpFileHandlers() {
     HandleForDocument(EmbedStylesheet, &ktStyleSheetWindow::EmbedInPage);
     HandleForEditor(PrintStyleSheet, &CSSEditorSrcView::PrintStyleSheet);
     handlers_.Set(PageSetup, [this](const Command&) { AskPageLayout(this); });
+    handlers_.Set(EditOptions, [this](const Command&) { frmOptions(store_, *this, this).EditOptions(); });
     handlers_.Set(Exit, [this](const Command&) { close(); });
 }
 

@@ -151,6 +151,16 @@ void frmMain::SaveAllStyleSheets() {
     }
 }
 
+void frmMain::UpdateColorCoding() {
+    for (StyleSheetPane* const pane : openDocuments_)
+        pane->CSSEditor().UpdateColorCoding();
+}
+
+void frmMain::FormatAllStyleSheets() {
+    for (StyleSheetPane* const pane : openDocuments_)
+        pane->Window().FormatStyleSheetText();
+}
+
 void frmMain::ClosePane(int index) {
     auto* const pane = qobject_cast<StyleSheetPane*>(documents_->widget(index));
     if (pane != nullptr && pane->Window().DoHide())
