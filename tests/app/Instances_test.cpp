@@ -1,7 +1,10 @@
+#include "document/RecoveryCopies.h"
 #include "settings/Settings.h"
 #include "settings/qt/IniSettingsStore.h"
 #include "shell/qt/InstanceLock.h"
 #include "shell/qt/MessageHook.h"
+#include "shell/qt/StyleSheetPane.h"
+#include "shell/qt/frmMain.h"
 #include "text/qt/QtText.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +17,7 @@
 #include <QTest>
 #include <algorithm>
 #include <memory>
+#include <set>
 
 // Starts of the real program, with the session's folders in a folder of the test.
 
@@ -121,6 +125,30 @@ TEST_F(InstancesTest, TenStartsAtOnceLoseNothing) {
     std::sort(opened.begin(), opened.end());
     EXPECT_EQ(opened, expected);
     EXPECT_EQ(Settings(store).Get(setting::OpenMe), u"");
+}
+
+TEST_F(InstancesTest, FiftyStartsAtOnceOpenFiftyDocuments) {
+    InstanceLock lock(InstanceFolder());
+    ASSERT_TRUE(lock.TryToTake());
+    NoRecoveryCopies recovery;
+    frmMain window(store, recovery);
+    const MessageHook hook(InstanceFolder(), store, [&](const Text& path) { window.OpenOneStyleSheet(path); });
+    std::vector<std::unique_ptr<QProcess>> starts;
+    for (int number = 0; number < 50; ++number) {
+        const QString name = QStringLiteral("%1.css").arg(number);
+        QFile file(home.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        starts.push_back(Start({name}));
+    }
+    for (const auto& start : starts) {
+        ASSERT_TRUE(WaitForEnd(*start));
+        EXPECT_EQ(start->exitCode(), 0);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.OpenDocuments().size() == 50; }, 5000));
+    std::set<Text> files;
+    for (const StyleSheetPane* const pane : window.OpenDocuments())
+        files.insert(pane->File());
+    EXPECT_EQ(files.size(), 50U);
 }
 
 TEST_F(InstancesTest, AStaleSocketOfACrashedInstanceIsReplaced) {

@@ -3,6 +3,8 @@
 #include "text/Narrowing.h"
 
 #include <QIcon>
+#include <QPalette>
+#include <QStandardPaths>
 #include <exception>
 
 /// The resources lie in a library, which the linker would leave out if nothing asked for them. The macro wants to stand
@@ -22,6 +24,24 @@ QIcon ProgramIcon() {
     return icon;
 }
 
+/// The desktop's own icons, and where it has none, those that go with a light or a dark window.
+void SetUpIcons() {
+    QStringList paths = QIcon::themeSearchPaths();
+    // Not every platform knows where icons lie.
+    for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
+        const QString icons = folder + QStringLiteral("/icons");
+        if (!paths.contains(icons))
+            paths.append(icons);
+    }
+    QIcon::setThemeSearchPaths(paths);
+    constexpr int HalfLight = 128;
+    const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < HalfLight;
+    const QString fallback = isDark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
+    QIcon::setFallbackThemeName(fallback);
+    if (QIcon::themeName().isEmpty())
+        QIcon::setThemeName(fallback);
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
@@ -31,7 +51,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationVersion(QStringLiteral(TINTORA_VERSION));
     setDesktopFileName(QStringLiteral("tintora"));
     setWindowIcon(ProgramIcon());
-    QIcon::setFallbackThemeName(QStringLiteral("breeze"));
+    SetUpIcons();
 }
 
 void Application::SetFailureHandlers(std::function<void(const OverflowFailure&)> onOverflow,
