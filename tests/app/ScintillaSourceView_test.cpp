@@ -7,6 +7,8 @@
 
 #include <Qsci/qsciprinter.h>
 #include <gtest/gtest.h>
+#include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
@@ -45,6 +47,10 @@ class RecordedEvents final : public SourceViewEvents {
     QStringList calls;
     bool throws = false;
 };
+
+/// Keys that are commands of the program, with Ctrl.
+const std::vector<Qt::Key> ProgramKeys = {Qt::Key_B, Qt::Key_I,     Qt::Key_U,           Qt::Key_D,           Qt::Key_G,
+                                          Qt::Key_H, Qt::Key_Slash, Qt::Key_BracketLeft, Qt::Key_BracketRight};
 
 class ScintillaViewTest : public testing::Test {
   protected:
@@ -98,6 +104,25 @@ TEST_F(ScintillaViewTest, ControlWithSpaceTypesNothing) {
     EXPECT_EQ(view.GetText(), u"ab");
     QTest::keyClick(&view.Control(), Qt::Key_Space);
     EXPECT_EQ(view.GetText(), u" ab");
+}
+
+TEST_F(ScintillaViewTest, KeysOfCommandsReachTheWindow) {
+    Load(u"Abc {}\n");
+    view.Control().selectAll();
+    view.Control().setFocus();
+    QApplication::setActiveWindow(&view);
+    for (const Qt::Key key : ProgramKeys) {
+        QTest::keyClick(&view.Control(), key, Qt::ControlModifier);
+        EXPECT_EQ(view.GetText(), u"Abc {}\n") << "with no such command, " << key << " changes nothing";
+        int triggered = 0;
+        QAction action;
+        action.setShortcut(QKeySequence(Qt::CTRL | key));
+        QObject::connect(&action, &QAction::triggered, &action, [&] { ++triggered; });
+        view.addAction(&action);
+        QTest::keyClick(&view.Control(), key, Qt::ControlModifier);
+        EXPECT_EQ(triggered, 1) << key;
+        EXPECT_EQ(view.GetText(), u"Abc {}\n") << key;
+    }
 }
 
 TEST_F(ScintillaViewTest, APlaceOfTheControlHasAPlaceOnTheScreen) {

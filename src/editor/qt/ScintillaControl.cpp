@@ -2,6 +2,7 @@
 
 #include "editor/qt/KeyCodes.h"
 
+#include <Qsci/qscicommandset.h>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
@@ -10,10 +11,32 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <array>
 
 namespace tintora {
 
-ScintillaControl::ScintillaControl(ControlEvents& events, QWidget* parent) : QsciScintilla(parent), events_(events) {}
+namespace {
+
+/// Keys that are commands of the program, with Ctrl. The control has other commands on them, which nobody asks for.
+constexpr auto ProgramKeys =
+    std::to_array<int>({Qt::Key_D, Qt::Key_U, Qt::Key_Slash, Qt::Key_BracketLeft, Qt::Key_BracketRight});
+
+void Unbind(const QsciCommandSet& commands, int key) {
+    QsciCommand* const command = commands.boundTo(key);
+    if (command == nullptr)
+        return;
+    if (command->key() == key)
+        command->setKey(0);
+    else
+        command->setAlternateKey(0);
+}
+
+}  // namespace
+
+ScintillaControl::ScintillaControl(ControlEvents& events, QWidget* parent) : QsciScintilla(parent), events_(events) {
+    for (const int key : ProgramKeys)
+        Unbind(*standardCommands(), Qt::CTRL | key);
+}
 
 bool ScintillaControl::event(QEvent* event) {
     // The control would claim keys that are shortcuts of the window, undo and clipboard among them; these come back to
