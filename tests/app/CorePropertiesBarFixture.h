@@ -23,7 +23,7 @@
 namespace tintora::test {
 
 /// A main window that writes down what the toolbar wants of it.
-class RecordingHost final : public CorePropertiesHost {
+class RecordingPropertiesHost final : public CorePropertiesHost {
   public:
     [[nodiscard]] const FrontDocument* ActiveStyleSheet() const override { return active; }
     [[nodiscard]] Texts CurrentDeclarations() const override { return declarations; }
@@ -121,7 +121,7 @@ class CorePropertiesBarTest : public testing::Test {
     std::optional<QColor> answer;
     std::function<void()> whileAsked;
 
-    RecordingHost host;
+    RecordingPropertiesHost host;
     QMainWindow window;
     QLineEdit text;
     CorePropertiesBar bar{host, nullptr, [this](const ColorQuestion& question, QWidget*) {

@@ -178,7 +178,7 @@ TEST_F(CorePropertiesBarTest, WithoutARuleNothingIsEnabled) {
     EXPECT_EQ(host.TakeChanges(), QString());
     EXPECT_EQ(askedCount, 0);
 
-    RecordingHost otherHost;
+    RecordingPropertiesHost otherHost;
     const CorePropertiesBar fresh(otherHost, nullptr);
     EXPECT_FALSE(fresh.Action(u"miFoBold")->isEnabled());
     EXPECT_FALSE(fresh.findChild<CorePropertyBox*>()->isEnabled());

@@ -61,7 +61,7 @@ const Looks& EditMenu() {
         {"miEReplace", "R&eplace…", "edit-find-replace", QKeySequence(Qt::CTRL | Qt::Key_H), "Finds and replaces text"},
         {"miEGotoLine", "&Go to Line…", "go-jump", QKeySequence(Qt::CTRL | Qt::Key_G), "Goes to a line by its number"},
         Separator,
-        {"miECommentOut", "Co&mment Out", "code-block", QKeySequence(Qt::CTRL | Qt::Key_Slash),
+        {"miECommentOut", "Co&mment Out", "edit-comment", QKeySequence(Qt::CTRL | Qt::Key_Slash),
          "Makes a comment of the selection"},
         {"miEIndent", "&Indent", "format-indent-more", QKeySequence(Qt::CTRL | Qt::Key_BracketRight),
          "Indents the selected lines"},

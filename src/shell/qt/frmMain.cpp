@@ -2,6 +2,7 @@
 
 #include "selectors/qt/ktSelectorPalette.h"
 #include "shell/CommandLine.h"
+#include "shell/qt/CorePropertiesBar.h"
 #include "shell/qt/FormStrings.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
@@ -41,6 +42,7 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
       messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
       documents_(new QTabWidget(this)),
       statements_(nullptr),
+      coreProperties_(nullptr),
       caretPosition_(new QLabel(this)),
       format_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmMain"));
@@ -49,6 +51,7 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
     SetUpHandlers();
     SetUpPanes();
     SetUpStatusBar();
+    coreProperties_ = new CorePropertiesBar(*this, this);
     SetUpMenus();
     SetUpToolbars();
     EnableDocumentCommands(false);
@@ -120,10 +123,6 @@ void frmMain::SetStatusBarText(TextView pane, TextView text) {
     else
         statusBar()->showMessage(ToQString(text));
 }
-
-void frmMain::EnableCorePropertiesToolbar(bool) {}
-
-void frmMain::SetUpCorePropertiesToolbar(TextView) {}
 
 void frmMain::BringToFront() {
     if (isMinimized())

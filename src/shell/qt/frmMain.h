@@ -2,6 +2,7 @@
 
 #include "settings/Settings.h"
 #include "shell/CommandHandlers.h"
+#include "shell/CorePropertiesHost.h"
 #include "shell/RecentFiles.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
@@ -11,14 +12,17 @@
 #include <QMainWindow>
 #include <memory>
 #include <set>
+#include <span>
 #include <vector>
 
 class QLabel;
 class QMenu;
 class QTabWidget;
+class QToolBar;
 
 namespace tintora {
 
+class CorePropertiesBar;
 class ktSelectorPalette;
 struct ActionLook;
 struct MenuLook;
@@ -26,7 +30,7 @@ struct MenuLook;
 /// The main window: the open style sheets in tabs, the palettes around them, and the commands.
 ///
 /// Its parts lie in files of their own: menus and toolbars, what the commands do, the open style sheets, the panes.
-class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
+class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, private CorePropertiesHost {
     Q_OBJECT
 
   public:
@@ -96,6 +100,12 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
     void UpdateMenus() override;
     void SetStatusBarText(TextView pane, TextView text) override;
 
+    // CorePropertiesHost
+    [[nodiscard]] const FrontDocument* ActiveStyleSheet() const override;
+    [[nodiscard]] Texts CurrentDeclarations() const override;
+    void PropertyHasChanged(TextView value, int number) override;
+    void FocusText() override;
+
     // OptionsHost
     void UpdateColorCoding() override;
     void FormatAllStyleSheets() override;
@@ -117,6 +127,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
     void AddSubmenu(QMenu& menu, const MenuLook& look);
     void FillOnlineMenu(QMenu& menu);
     void SetUpToolbars();
+    void AddTools(QToolBar& bar, std::span<const TextView> keys);
     [[nodiscard]] QAction* FindAction(TextView key) const;
     /// Runs the command of a key; a key that is no command does nothing.
     void RunCommand(TextView key);
@@ -127,6 +138,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
     void SetUpEditHandlers();
     void SetUpStatementHandlers();
     void SetUpWindowHandlers();
+    void SetUpCorePropertyHandlers();
     void SetUpHelpHandlers();
     void HandleForDocument(CommandOperation operation, void (ktStyleSheetWindow::*command)());
     void HandleForEditor(CommandOperation operation, void (CSSEditorSrcView::*command)());
@@ -151,6 +163,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost {
     CommandHandlers handlers_;
     QTabWidget* documents_;
     ktSelectorPalette* statements_;
+    CorePropertiesBar* coreProperties_;
     QLabel* caretPosition_;
     QLabel* format_;
     std::vector<StyleSheetPane*> openDocuments_;

@@ -5,6 +5,7 @@
 #include "shell/OnlinePages.h"
 #include "shell/Toolbars.h"
 #include "shell/qt/CommandLooks.h"
+#include "shell/qt/CorePropertiesBar.h"
 #include "shell/qt/RecentMenu.h"
 #include "shell/qt/frmMain.h"
 #include "text/qt/QtText.h"
@@ -66,7 +67,7 @@ void frmMain::FillMenu(QMenu& menu, const MenuLook& look) {
 
 void frmMain::AddEntry(QMenu& menu, const ActionLook& look) {
     const Text key = ToText(QString::fromUtf8(look.key));
-    if (QAction* const shared = FindAction(key)) {
+    if (QAction* const shared = coreProperties_->Action(key)) {
         menu.addAction(shared);
         return;
     }
@@ -116,21 +117,31 @@ void frmMain::FillOnlineMenu(QMenu& menu) {
 
 void frmMain::SetUpToolbars() {
     for (const Toolbar& look : Toolbars()) {
+        if (ToQString(look.caption) == coreProperties_->windowTitle()) {
+            addToolBar(coreProperties_);
+            continue;
+        }
         auto* const bar = new QToolBar(ToQString(look.caption), this);
         bar->setObjectName(ToQString(look.caption));
         bar->setIconSize({IconSize, IconSize});
-        for (const TextView key : look.keys) {
-            QAction* const action = key == ToolbarSeparator ? nullptr : FindAction(key);
-            if (action != nullptr)
-                bar->addAction(action);
-            else if (key == ToolbarSeparator && !bar->actions().isEmpty() && !bar->actions().constLast()->isSeparator())
-                bar->addSeparator();
-        }
+        AddTools(*bar, look.keys);
         if (bar->actions().isEmpty())
             delete bar;
         else
             addToolBar(bar);
     }
+}
+
+void frmMain::AddTools(QToolBar& bar, std::span<const TextView> keys) {
+    for (const TextView key : keys) {
+        QAction* const action = key == ToolbarSeparator ? nullptr : FindAction(key);
+        if (action != nullptr)
+            bar.addAction(action);
+        else if (key == ToolbarSeparator && !bar.actions().isEmpty() && !bar.actions().constLast()->isSeparator())
+            bar.addSeparator();
+    }
+    if (!bar.actions().isEmpty() && bar.actions().constLast()->isSeparator())
+        bar.removeAction(bar.actions().constLast());
 }
 
 void frmMain::UpdateMenuItem(TextView key, bool enabled) {

@@ -16,6 +16,7 @@ void frmMain::SetUpHandlers() {
     SetUpFileHandlers();
     SetUpEditHandlers();
     SetUpStatementHandlers();
+    SetUpCorePropertyHandlers();
     SetUpWindowHandlers();
     SetUpHelpHandlers();
 }
