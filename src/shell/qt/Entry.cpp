@@ -8,6 +8,7 @@
 #include "settings/qt/XdgAssociations.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/Application.h"
+#include "shell/qt/FirstPaint.h"
 #include "shell/qt/InstanceLock.h"
 #include "shell/qt/MessageHook.h"
 #include "shell/qt/PreviousInstance.h"
@@ -66,6 +67,7 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
     frmMain window(store, recovery);
     application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
                                    [&](const QString& what) { window.ReportFault(what); });
+    const FirstPaint firstPaint(window);
     window.LoadStep(file);
     window.show();
     CompleteSetup(store, window, file);
