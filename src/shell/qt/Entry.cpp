@@ -8,6 +8,7 @@
 #include "settings/qt/XdgAssociations.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/Application.h"
+#include "shell/qt/ApplicationFolder.h"
 #include "shell/qt/FirstPaint.h"
 #include "shell/qt/InstanceLock.h"
 #include "shell/qt/MessageHook.h"
@@ -64,7 +65,9 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
     SetUpValueLists();
     RecoveryFolder recovery(RecoveryFolderPath());
     const std::vector<LeftCopy> left = recovery.ReadLeftCopies();
-    frmMain window(store, recovery);
+    const ApplicationFolder folder(ApplicationFolder::UserPath());
+    folder.Fill(FindShippedData());
+    frmMain window(store, recovery, nullptr, folder.LayoutPath());
     application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
                                    [&](const QString& what) { window.ReportFault(what); });
     const FirstPaint firstPaint(window);

@@ -4,6 +4,8 @@
 #include "shell/CommandLine.h"
 #include "shell/qt/CorePropertiesBar.h"
 #include "shell/qt/FormStrings.h"
+#include "shell/qt/LayoutFile.h"
+#include "shell/qt/PlaceOnScreens.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "text/Narrowing.h"
@@ -34,12 +36,19 @@ int Pixels(float twips) {
 
 }  // namespace
 
-frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages)
+frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages,
+                 QString layoutPath)
     : store_(store),
       recovery_(recovery),
       settings_(store),
       recent_(store),
       messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
+      layoutPath_(std::move(layoutPath)),
+      workspace_(*this, {},
+                 [this] {
+                     if (StyleSheetPane* const pane = ActiveDocument())
+                         pane->Window().UpdatePropertiesEditor();
+                 }),
       documents_(new QTabWidget(this)),
       statements_(nullptr),
       coreProperties_(nullptr),
@@ -54,6 +63,8 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
     coreProperties_ = new CorePropertiesBar(*this, this);
     SetUpMenus();
     SetUpToolbars();
+    SetUpPaneMarks();
+    workspace_.ArrangeAsDesigned();
     EnableDocumentCommands(false);
     // Whether there is something to paste may change without anything happening here.
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
@@ -81,6 +92,10 @@ void frmMain::LoadStep(TextView file) {
         }
     };
     run([this] { SetLocation(); });
+    run([this] {
+        if (!layoutPath_.isEmpty())
+            OpenLayout(workspace_, layoutPath_);
+    });
     run([&] {
         if (!file.empty())
             OpenOneStyleSheet(file);
@@ -95,8 +110,10 @@ void frmMain::SetLocation() {
         return;
     }
     const WindowPlace place = settings_.GetWindowPlace();
-    move(Pixels(place.left), Pixels(place.top));
-    resize(Pixels(place.width), Pixels(place.height));
+    const QRect visible =
+        PlaceOnScreens({Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height)});
+    move(visible.topLeft());
+    resize(visible.size());
 }
 
 void frmMain::SaveLocationOnClose() {

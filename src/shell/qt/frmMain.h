@@ -4,6 +4,7 @@
 #include "shell/CommandHandlers.h"
 #include "shell/CorePropertiesHost.h"
 #include "shell/RecentFiles.h"
+#include "shell/qt/DockWorkspace.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/options/OptionsHost.h"
@@ -35,8 +36,9 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
   public:
     /// `store` and `recovery` must outlive the window. `messages` says and asks what the user must see; without one,
-    /// boxes do.
-    frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages = nullptr);
+    /// boxes do. The arrangement of panes and toolbars is kept in the file `layoutPath`; with "" it isn't.
+    frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages = nullptr,
+            QString layoutPath = {});
     ~frmMain() override;
 
     /// The load step: brings the window to its stored place, and opens `file`, or a new style sheet if `file` is "" and
@@ -116,6 +118,9 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
     // Panes.
     void SetUpPanes();
+    void SetUpPaneMarks();
+    void ToggleFloatingWindow(TextView pane);
+    void UpdateAfterPalettes();
     void FollowFocus(const QWidget* now);
     void GoToNextPane();
     void GoToDocument(int step);
@@ -161,6 +166,8 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     RecentFiles recent_;
     std::unique_ptr<UserMessages> messages_;
     CommandHandlers handlers_;
+    QString layoutPath_;
+    DockWorkspace workspace_;
     QTabWidget* documents_;
     ktSelectorPalette* statements_;
     CorePropertiesBar* coreProperties_;

@@ -1,6 +1,7 @@
 // What the commands do.
 
 #include "editor/qt/PageLayout.h"
+#include "shell/Layouts.h"
 #include "shell/qt/frmMain.h"
 #include "shell/qt/frmSplash.h"
 #include "shell/qt/options/frmOptions.h"
@@ -9,8 +10,6 @@
 #include <QTabWidget>
 
 namespace tintora {
-
-using enum CommandOperation;
 
 void frmMain::SetUpHandlers() {
     SetUpFileHandlers();
@@ -36,6 +35,7 @@ void frmMain::HandleForEditor(CommandOperation operation, void (CSSEditorSrcView
 }
 
 void frmMain::SetUpFileHandlers() {
+    using enum CommandOperation;
     handlers_.Set(CommandOperation::LoadNewDoc, [this](const Command&) { LoadNewDoc(); });
     handlers_.Set(OpenStyleSheet, [this](const Command&) { AskForStyleSheet(); });
     handlers_.Set(ClearOpenMenu, [this](const Command&) { recent_.Clear(); });
@@ -53,6 +53,7 @@ void frmMain::SetUpFileHandlers() {
 }
 
 void frmMain::SetUpEditHandlers() {
+    using enum CommandOperation;
     // The palettes that there are have nothing to cut, copy, paste or clear.
     const auto route = [this](CommandOperation operation, void (CSSEditorSrcView::*command)()) {
         handlers_.Set(operation, [this, command](const Command&) {
@@ -88,6 +89,7 @@ void frmMain::SetUpEditHandlers() {
 }
 
 void frmMain::SetUpStatementHandlers() {
+    using enum CommandOperation;
     handlers_.Set(NewStatement, [this](const Command& command) {
         if (StyleSheetPane* const pane = ActiveDocument())
             pane->Window().NewStatement(command.parameter);
@@ -97,13 +99,26 @@ void frmMain::SetUpStatementHandlers() {
 }
 
 void frmMain::SetUpWindowHandlers() {
+    handlers_.Set(CommandOperation::ShowFloatingWindowAndUpdate,
+                  [this](const Command& command) { ToggleFloatingWindow(command.parameter); });
+    handlers_.Set(CommandOperation::ShowPalettes, [this](const Command&) {
+        ShowPalettes(workspace_);
+        UpdateAfterPalettes();
+    });
+    handlers_.Set(CommandOperation::HidePalettes, [this](const Command&) { HidePalettes(workspace_); });
+    handlers_.Set(CommandOperation::ShowAllToolbars, [this](const Command&) { ShowAllToolbars(workspace_); });
+    handlers_.Set(CommandOperation::HideAllToolbars, [this](const Command&) { HideAllToolbars(workspace_); });
+    handlers_.Set(CommandOperation::UseLayout, [this](const Command& command) {
+        UseLayout(workspace_, command.parameter);
+        UpdateAfterPalettes();
+    });
     handlers_.SetOwn(u"miWNextPane", [this] { GoToNextPane(); });
     handlers_.SetOwn(u"miWNextDocument", [this] { GoToDocument(1); });
     handlers_.SetOwn(u"miWPreviousDocument", [this] { GoToDocument(-1); });
 }
 
 void frmMain::SetUpHelpHandlers() {
-    handlers_.Set(About, [this](const Command&) { frmSplash(this).exec(); });
+    handlers_.Set(CommandOperation::About, [this](const Command&) { frmSplash(this).exec(); });
 }
 
 }  // namespace tintora

@@ -5,6 +5,7 @@
 #include "linking/TextFiles.h"
 #include "linking/TextWriting.h"
 #include "selectors/qt/ktSelectorPalette.h"
+#include "shell/qt/LayoutFile.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/frmMain.h"
@@ -191,6 +192,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
     for (StyleSheetPane* const pane : panes)
         pane->Window().Unload();
     SaveLocationOnClose();
+    if (!layoutPath_.isEmpty())
+        SaveLayout(workspace_, layoutPath_);
     event->accept();
 }
 

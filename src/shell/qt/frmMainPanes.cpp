@@ -2,7 +2,10 @@
 
 #include "selectors/SelectorCommands.h"
 #include "selectors/qt/ktSelectorPalette.h"
+#include "shell/Layouts.h"
+#include "shell/Panes.h"
 #include "shell/qt/frmMain.h"
+#include "text/qt/QtText.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -15,8 +18,6 @@
 namespace tintora {
 
 namespace {
-
-constexpr int StatementsWidth = 200;
 
 /// Whether an item of the palette of statements does something: the forms that the others open aren't there yet.
 bool IsBuilt(TextView key) {
@@ -44,12 +45,38 @@ void frmMain::SetUpPanes() {
     connect(documents_, &QTabWidget::currentChanged, this, &frmMain::PaneActivated);
 
     statements_ = new ktSelectorPalette(this, IsBuilt);
-    auto* const dock = new QDockWidget(QStringLiteral("Statements"), this);
-    dock->setObjectName(QStringLiteral("dwSelectorsEditor"));
-    dock->setWidget(statements_);
-    addDockWidget(Qt::LeftDockWidgetArea, dock);
-    resizeDocks({dock}, {StatementsWidth}, Qt::Horizontal);
+    workspace_.AddPane(u"dwSelectorsEditor", QStringLiteral("Statements"), statements_);
+    connect(statements_, &ktSelectorPalette::ShowFloatingWindow, this,
+            [this](const QString& pane) { ShowFloatingWindow(workspace_, ToText(pane)); });
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) { FollowFocus(now); });
+}
+
+void frmMain::SetUpPaneMarks() {
+    for (const Pane& pane : Panes) {
+        QAction* const action = pane.menuItem.empty() ? nullptr : FindAction(pane.menuItem);
+        if (action == nullptr)
+            continue;
+        action->setCheckable(true);
+        workspace_.CheckWhileShown(*action, pane.key);
+    }
+}
+
+void frmMain::ToggleFloatingWindow(TextView pane) {
+    const QWidget* const form = workspace_.GetFloatingWindow(pane);
+    // One that is a tab behind another comes forward.
+    const bool isInView = form != nullptr && form->isVisible() && !form->visibleRegion().isEmpty();
+    if (isInView) {
+        workspace_.HidePane(pane);
+        return;
+    }
+    ShowFloatingWindow(workspace_, pane);
+    UpdateAfterPalettes();
+}
+
+void frmMain::UpdateAfterPalettes() {
+    // A palette that was hidden is stale.
+    if (StyleSheetPane* const pane = ActiveDocument())
+        pane->Window().UpdateEditorsOnStyleSheetChange();
 }
 
 void frmMain::FollowFocus(const QWidget* now) {
