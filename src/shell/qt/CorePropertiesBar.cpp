@@ -5,16 +5,13 @@
 #include "shell/Commands.h"
 #include "shell/CorePropertiesHost.h"
 #include "shell/PropertyToggles.h"
-#include "shell/RuleColors.h"
 #include "shell/Toolbars.h"
-#include "shell/qt/ColorToolIcon.h"
 #include "shell/qt/CorePropertyActions.h"
 #include "shell/qt/CorePropertyBox.h"
 #include "text/qt/QtText.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPointer>
 #include <algorithm>
 #include <exception>
 
@@ -29,8 +26,6 @@ constexpr int Gap = 4;
 constexpr TextView Caption = u"Basic Properties";
 constexpr TextView FontFamilyBox = u"cbBPFontFamily";
 constexpr TextView FontSizeBox = u"cbBPFontSize";
-constexpr TextView ColorTool = u"miColor";
-constexpr TextView BackgroundColorTool = u"miBackgroundColor";
 
 bool IsTool(TextView key) { return std::ranges::find(CorePropertyTools, key) != CorePropertyTools.end(); }
 
@@ -39,16 +34,6 @@ QStringList ToQStringList(const Texts& texts) {
     for (const Text& text : texts)
         strings.append(ToQString(text));
     return strings;
-}
-
-QColor ToQColor(ColorValue color) {
-    return QColor::fromRgb(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8U) & 0xFFU),
-                           static_cast<int>((color >> 16U) & 0xFFU));
-}
-
-std::optional<QColor> ColorOf(const Texts& declarations, TextView property) {
-    const std::optional<ColorValue> color = RuleColor(declarations, property);
-    return color ? std::optional(ToQColor(*color)) : std::nullopt;
 }
 
 }  // namespace
@@ -134,13 +119,10 @@ QAction* CorePropertiesBar::Action(TextView key) const {
 
 void CorePropertiesBar::SetUpCorePropertiesToolbar(TextView body) {
     CorePropertiesToolbar toolbar = tintora::SetUpCorePropertiesToolbar(body);
-    const Texts declarations = GetClosedDeclarations(body);
     ClearToolBar();
     shown_ = std::move(toolbar);
-    color_ = ColorOf(declarations, u"color");
-    backgroundColor_ = ColorOf(declarations, u"background-color");
     ShowMarks();
-    ShowColors();
+    ReadColors(GetClosedDeclarations(body));
     fontFamily_->ShowText(ToQString(shown_.fontFamily));
     if (!shown_.fontSizes.empty())
         fontSize_->ShowList(ToQStringList(shown_.fontSizes));
@@ -152,10 +134,8 @@ void CorePropertiesBar::ClearToolBar() {
     fontFamily_->ClearText();
     fontSize_->ClearText();
     shown_ = {};
-    color_.reset();
-    backgroundColor_.reset();
     ShowMarks();
-    ShowColors();
+    ReadColors({});
 }
 
 void CorePropertiesBar::ShowFontFamilies() {
@@ -169,11 +149,6 @@ void CorePropertiesBar::ShowMarks() {
         if (QAction* const action = Action(key))
             action->setChecked(shown_.IsChecked(key));
     }
-}
-
-void CorePropertiesBar::ShowColors() {
-    Action(ColorTool)->setIcon(ColorToolIcon(ColorToolSign::Letter, palette(), color_));
-    Action(BackgroundColorTool)->setIcon(ColorToolIcon(ColorToolSign::Ground, palette(), backgroundColor_));
 }
 
 void CorePropertiesBar::EnableCorePropertiesToolbar(bool enabled) {
@@ -227,31 +202,10 @@ void CorePropertiesBar::Change(const PropertyChanges& changes) {
         host_.PropertyHasChanged(change.value, change.number);
 }
 
-void CorePropertiesBar::EditColorGM() { EditColor(u"color", QStringLiteral("Edit Text Color")); }
-
-void CorePropertiesBar::EditBackgroundColorGM() {
-    EditColor(u"background-color", QStringLiteral("Edit Background Color"));
-}
-
-void CorePropertiesBar::EditColor(TextView property, const QString& title) {
-    const FrontDocument* const sheet = host_.ActiveStyleSheet();
-    if (!isEnabled_ || sheet == nullptr)
-        return;
-    ColorQuestion question{title, ColorOf(host_.CurrentDeclarations(), property), {}};
-    for (const ColorValue color : ColorsToShow(GetCurrentColorList(sheet)))
-        question.customColors.append(ToQColor(color));
-    const QPointer<CorePropertiesBar> bar(this);
-    const std::optional<QColor> answer = askColor_(question, this);
-    // Meanwhile another start of the program may have brought another style sheet to the front.
-    if (bar.isNull() || !answer || !isEnabled_ || host_.ActiveStyleSheet() != sheet)
-        return;
-    host_.PropertyHasChanged(ToText(answer->name(QColor::HexRgb)), PropertyNumberFromName(property));
-}
-
 void CorePropertiesBar::changeEvent(QEvent* event) {
     QToolBar::changeEvent(event);
     const bool isLook = event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange;
-    if (isLook && Action(ColorTool) != nullptr)
+    if (isLook && Action(u"miBackgroundColor") != nullptr)
         ShowColors();
 }
 

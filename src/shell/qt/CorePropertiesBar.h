@@ -73,6 +73,7 @@ class CorePropertiesBar : public QToolBar {
     void EditColor(TextView property, const QString& title);
     void ShowFontFamilies();
     void ShowMarks();
+    void ReadColors(const Texts& declarations);
     void ShowColors();
     void EnableTools();
 

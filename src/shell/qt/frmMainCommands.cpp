@@ -36,13 +36,13 @@ void frmMain::HandleForEditor(CommandOperation operation, void (CSSEditorSrcView
 
 void frmMain::SetUpFileHandlers() {
     using enum CommandOperation;
-    handlers_.Set(CommandOperation::LoadNewDoc, [this](const Command&) { LoadNewDoc(); });
+    handlers_.Set(CommandOperation::LoadNewDoc, [this](const Command&) { this->LoadNewDoc(); });
     handlers_.Set(OpenStyleSheet, [this](const Command&) { AskForStyleSheet(); });
     handlers_.Set(ClearOpenMenu, [this](const Command&) { recent_.Clear(); });
     handlers_.Set(CloseWindow, [this](const Command&) { ClosePane(documents_->currentIndex()); });
-    handlers_.Set(CommandOperation::SaveStyleSheet, [this](const Command&) { SaveStyleSheet(); });
+    handlers_.Set(CommandOperation::SaveStyleSheet, [this](const Command&) { this->SaveStyleSheet(); });
     HandleForDocument(SaveStyleSheetAs, &ktStyleSheetWindow::SaveAs);
-    handlers_.Set(CommandOperation::SaveAllStyleSheets, [this](const Command&) { SaveAllStyleSheets(); });
+    handlers_.Set(CommandOperation::SaveAllStyleSheets, [this](const Command&) { this->SaveAllStyleSheets(); });
     HandleForDocument(LinkStyleSheet, &ktStyleSheetWindow::LinkPage);
     HandleForDocument(LinkSite, &ktStyleSheetWindow::LinkSite);
     HandleForDocument(EmbedStylesheet, &ktStyleSheetWindow::EmbedInPage);
