@@ -75,7 +75,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     // The dialogs
     [[nodiscard]] Text AskStatementKind() override { return answer; }
     [[nodiscard]] Text EditSelector(TextView, TextView) override { return answer; }
-    [[nodiscard]] std::optional<Text> AskSavePath(TextView, TextView) override { return std::nullopt; }
+    [[nodiscard]] std::optional<Text> AskSavePath(TextView, TextView, TextView) override { return std::nullopt; }
     [[nodiscard]] SaveAnswer AskSaveChanges(TextView, TextView) override { return SaveAnswer::Cancel; }
     [[nodiscard]] ChangedFileAnswer AskAboutChangedFile(TextView) override { return ChangedFileAnswer::Cancel; }
     void ShowWriteFailure(TextView) override {}

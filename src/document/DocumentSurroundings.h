@@ -50,8 +50,8 @@ class FileDialogs : public WriteMessages {
     enum class ChangedFileAnswer { Overwrite, Reload, Cancel };
 
     /// The path under which to save, by a dialog with that title that proposes a name and asks before it overwrites;
-    /// nothing if it is cancelled.
-    [[nodiscard]] virtual std::optional<Text> AskSavePath(TextView title, TextView proposedName) = 0;
+    /// nothing if it is cancelled. It opens in `folder`, or where files were saved last if that is "".
+    [[nodiscard]] virtual std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView folder) = 0;
 
     /// Whether to save a document before it is closed.
     [[nodiscard]] virtual SaveAnswer AskSaveChanges(TextView title, TextView question) = 0;

@@ -134,7 +134,7 @@ void ktStyleSheetWindow::SaveInto(const Text& path) {
 void ktStyleSheetWindow::Save() {
     Text path = GetFile();
     if (path.empty()) {
-        const std::optional<Text> chosen = fileDialogs_.AskSavePath(u"Save", caption_);
+        const std::optional<Text> chosen = fileDialogs_.AskSavePath(u"Save", caption_, {});
         if (!chosen || chosen->empty())
             return;
         path = *chosen;
@@ -146,7 +146,7 @@ void ktStyleSheetWindow::Save() {
 }
 
 void ktStyleSheetWindow::SaveAs() {
-    const std::optional<Text> path = fileDialogs_.AskSavePath(u"Save As", caption_);
+    const std::optional<Text> path = fileDialogs_.AskSavePath(u"Save As", caption_, GetFolderPath(GetFile()));
     if (!path || path->empty())
         return;
     SetCaption(*path);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editor/Clock.h"
 #include "document/RecoveryCopies.h"
+#include "editor/Clock.h"
 
 #include <functional>
 #include <memory>

@@ -34,7 +34,7 @@ class RecordedMessages final : public UserMessages {
     void Tell(const QString& text, const QString&) override { told_.messages.append(text); }
     void OpenAddress(const QString& address) override { told_.addresses.append(address); }
     void ShowWriteFailure(TextView message) override { told_.messages.append(ToQString(message)); }
-    std::optional<Text> AskSavePath(TextView title, TextView proposedName) override {
+    std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView) override {
         told_.questions.append(ToQString(title) + ": " + ToQString(proposedName));
         return told_.savePath;
     }

@@ -315,6 +315,16 @@ TEST_F(frmMainTest, TheListShowsAStatementThatIsTypedAtTheEnd) {
         [&] { return Statements().currentItem() != nullptr && Statements().currentItem()->text(0) == "p"; }, 3000));
 }
 
+TEST_F(frmMainTest, TheListNamesTheStatementAtTheCaretAlsoWhileTheDocumentLagsBehind) {
+    window->OpenOneStyleSheet(MakeFile("a.css", "h1 {}\np {}\nq {}\n"));
+    ktStyleSheetWindow& document = window->ActiveDocument()->Window();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return document.LastSelectedStatement() == 1; }, 3000));
+    document.SetSelection(15, 15);
+    document.UpdateSelectorsPalette();
+    EXPECT_EQ(Selectors(), QStringList({"h1", "p", "q"}));
+    EXPECT_EQ(Statements().SelectedNumber(), 3);
+}
+
 TEST_F(frmMainTest, ASavedStyleSheetIsInItsFileAndClean) {
     const Text path = MakeFile("a.css", "h1 {}\r\n");
     window->OpenOneStyleSheet(path);

@@ -137,7 +137,7 @@ class ScriptedFiles final : public FileDialogs {
   public:
     explicit ScriptedFiles(Calls& calls) : calls_(calls) {}
 
-    [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName) override {
+    [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView) override {
         calls_.push_back("AskSavePath " + Utf8FromText(title) + ": " + Utf8FromText(proposedName));
         return savePath;
     }

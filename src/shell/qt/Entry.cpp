@@ -27,6 +27,7 @@ namespace tintora {
 namespace {
 
 constexpr int ExitUnanswered = 1;
+constexpr int MillisecondsToSettle = 500;
 
 Texts Arguments(int argc, char** argv) {
     Texts arguments;
@@ -83,7 +84,10 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
     // The loop has to run before a question can be asked.
     QTimer::singleShot(0, &window, [&] {
         window.OfferLeftCopies(left);
-        OfferDefaultCSSEditor(store, desktop, [&] { dlgDefaultCSSEditor(store, desktop, &window).AskDefault(); });
+        // To ask the desktop takes a while, and the window is to be seen first.
+        QTimer::singleShot(MillisecondsToSettle, &window, [&] {
+            OfferDefaultCSSEditor(store, desktop, [&] { dlgDefaultCSSEditor(store, desktop, &window).AskDefault(); });
+        });
     });
     const int status = Application::exec();
     application.SetFailureHandlers({}, {});

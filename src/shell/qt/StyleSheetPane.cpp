@@ -81,9 +81,19 @@ void StyleSheetPane::StatementsCached() {
 
 void StyleSheetPane::UpdateSelectors(const Texts& statements, TextView currentSelector) {
     shownStatements_ = statements.size();
-    statements_.UpdateSelectors(statements, currentSelector);
+    const int number =
+        std::min(window_.GetCurrentStatementNumber(window_.GetSelectionStart()), static_cast<int>(statements.size()));
+    if (number < 1) {
+        statements_.UpdateSelectors(statements, currentSelector);
+        return;
+    }
+    // The list has the statement at the caret for its current one, and so that is the one whose selector it is told;
+    // the document's own current selector may lag behind the caret.
+    statements_.SelectStatement(number);
+    statements_.UpdateSelectors(statements,
+                                window_.StyleSheet().ExtractSelector(statements[static_cast<std::size_t>(number - 1)]));
     // A list that has been filled anew has nothing selected.
-    statements_.SelectStatement(window_.GetCurrentStatementNumber(window_.GetSelectionStart()));
+    statements_.SelectStatement(number);
 }
 
 }  // namespace tintora

@@ -60,10 +60,11 @@ void MessageBoxes::ShowWriteFailure(TextView message) {
     QMessageBox::critical(&window_, QStringLiteral("Tintora"), ToQString(message));
 }
 
-std::optional<Text> MessageBoxes::AskSavePath(TextView title, TextView proposedName) {
-    const QString folder = folder_.isEmpty() ? QDir::currentPath() : folder_;
+std::optional<Text> MessageBoxes::AskSavePath(TextView title, TextView proposedName, TextView folder) {
+    const QString lastFolder = folder_.isEmpty() ? QDir::currentPath() : folder_;
+    const QString start = folder.empty() ? lastFolder : ToQString(folder);
     const QString chosen = QFileDialog::getSaveFileName(
-        &window_, ToQString(title), folder + QLatin1Char('/') + ToQString(proposedName), QString::fromUtf8(SaveFilter));
+        &window_, ToQString(title), start + QLatin1Char('/') + ToQString(proposedName), QString::fromUtf8(SaveFilter));
     if (chosen.isEmpty())
         return std::nullopt;
     folder_ = QFileInfo(chosen).absolutePath();

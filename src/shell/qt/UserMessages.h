@@ -37,7 +37,7 @@ class MessageBoxes final : public UserMessages {
     void Tell(const QString& text, const QString& details) override;
     void OpenAddress(const QString& address) override;
     void ShowWriteFailure(TextView message) override;
-    [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName) override;
+    [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView folder) override;
     [[nodiscard]] SaveAnswer AskSaveChanges(TextView title, TextView question) override;
     [[nodiscard]] ChangedFileAnswer AskAboutChangedFile(TextView path) override;
     void AskAboutCopies(const std::vector<LeftCopy>& copies,
