@@ -7,8 +7,10 @@
 #include "model/SelectorExplanation.h"
 #include "model/SelectorText.h"
 #include "model/ktStyleSheet.h"
+#include "text/Encoding.h"
 #include "text/Narrowing.h"
 #include "text/Whitespace.h"
+#include "validation/ValidatorAddress.h"
 
 #include <memory>
 #include <ostream>
@@ -106,6 +108,10 @@ void PrintInventory(Console& console, const std::string& file) {
                           .Line();
 }
 
+void PrintEncoded(Console& console, const std::string& file) {
+    console.output << Utf8FromText(EncodeForURL(ReadStyleSheet(console, file)));
+}
+
 void ExplainSelectors(Console& console) {
     int line = 0;
     for (const Text& selector : Lines(ReadStandardInput(console))) {
@@ -140,6 +146,8 @@ void AddReadingCommands(CLI::App& app, Console& console) {
     AddFileCommand(app, console, "declarations", "The declarations: one line for each statement", PrintDeclarations);
     AddPlacesCommand(app, console);
     AddFileCommand(app, console, "inventory", "The colours, fonts, URLs, classes and IDs in use", PrintInventory);
+    AddFileCommand(app, console, "encode", "The text as the address of the W3C's CSS validator carries it",
+                   PrintEncoded);
     app.add_subcommand("explain", "Selectors in plain English: one line for each line of standard input")
         ->callback([&console] { ExplainSelectors(console); });
 }
