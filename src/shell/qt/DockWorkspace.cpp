@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QScreen>
 #include <QScrollArea>
 #include <QToolBar>
 #include <algorithm>
@@ -41,6 +42,34 @@ QScrollArea* MakeScroller(QWidget& form) {
     scroller->setWidget(&form);
     return scroller;
 }
+
+/// Has a window that isn't shown yet count as shown, as large as it will be, without a sight of it.
+///
+/// What is restored in a hidden window the toolkit keeps aside until that is shown and resized, with pointers into its
+/// own layout that may dangle by then: it crashes where the window comes up smaller than the arrangement.
+class ShownOffScreen {
+  public:
+    explicit ShownOffScreen(QMainWindow& window) : window_(window), wasHidden_(!window.isVisible()) {
+        if (!wasHidden_)
+            return;
+        if (window_.isMaximized())
+            window_.resize(window_.screen()->availableSize());
+        window_.setAttribute(Qt::WA_DontShowOnScreen);
+        window_.show();
+    }
+    ~ShownOffScreen() {
+        if (!wasHidden_)
+            return;
+        window_.hide();
+        window_.setAttribute(Qt::WA_DontShowOnScreen, false);
+    }
+    ShownOffScreen(const ShownOffScreen&) = delete;
+    ShownOffScreen& operator=(const ShownOffScreen&) = delete;
+
+  private:
+    QMainWindow& window_;
+    bool wasHidden_;
+};
 
 }  // namespace
 
@@ -146,6 +175,7 @@ void DockWorkspace::ArrangeAsDesigned() {
 QByteArray DockWorkspace::SaveArrangement() const { return window_.saveState(ArrangementVersion); }
 
 bool DockWorkspace::RestoreArrangement(const QByteArray& bytes) {
+    const ShownOffScreen shown(window_);
     const QByteArray before = SaveArrangement();
     if (!window_.restoreState(bytes, ArrangementVersion)) {
         // After bytes that it can't read the toolkit lays out nothing any more, until it is given some that it can.
