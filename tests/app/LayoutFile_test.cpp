@@ -109,6 +109,27 @@ TEST_F(LayoutFileTest, AMaximizedWindowGetsItsSizesBack) {
     EXPECT_EQ(PlacesOf(panes), places);
 }
 
+TEST_F(LayoutFileTest, AWindowThatComesUpSmallerThanTheArrangementStandsIt) {
+    {
+        WindowWithPanes panes;
+        panes.window.resize(1900, 1000);
+        Expose(panes);
+        ASSERT_TRUE(SaveLayout(panes.workspace, Path()));
+    }
+    WindowWithPanes panes;
+    panes.window.setWindowState(Qt::WindowMaximized);
+    EXPECT_TRUE(OpenLayout(panes.workspace, Path()));
+    EXPECT_FALSE(panes.window.isVisible()) << "nobody has seen it yet";
+    EXPECT_TRUE(panes.window.isMaximized());
+    Expose(panes);
+    for (const int width : {1200, 500, 320, 900}) {
+        panes.window.showNormal();
+        panes.window.resize(width, 400);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(panes.window.isVisible());
+    }
+}
+
 TEST_F(LayoutFileTest, APaneThatFloatedBeyondAllScreensIsBroughtBack) {
     {
         WindowWithPanes panes;
