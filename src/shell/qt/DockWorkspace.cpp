@@ -49,7 +49,8 @@ QScrollArea* MakeScroller(QWidget& form) {
 /// own layout that may dangle by then: it crashes where the window comes up smaller than the arrangement.
 class ShownOffScreen {
   public:
-    explicit ShownOffScreen(QMainWindow& window) : window_(window), wasHidden_(!window.isVisible()) {
+    explicit ShownOffScreen(QMainWindow& window)
+        : window_(window), wasHidden_(!window.isVisible()), state_(window.windowState()) {
         if (!wasHidden_)
             return;
         if (window_.isMaximized())
@@ -62,6 +63,7 @@ class ShownOffScreen {
             return;
         window_.hide();
         window_.setAttribute(Qt::WA_DontShowOnScreen, false);
+        window_.setWindowState(state_);
     }
     ShownOffScreen(const ShownOffScreen&) = delete;
     ShownOffScreen& operator=(const ShownOffScreen&) = delete;
@@ -69,6 +71,7 @@ class ShownOffScreen {
   private:
     QMainWindow& window_;
     bool wasHidden_;
+    Qt::WindowStates state_;
 };
 
 }  // namespace
