@@ -15,9 +15,7 @@ namespace tintora {
 ///     recent.Add(u"/site/b.css");
 ///     recent.Read();                      // {"/site/b.css", "/site/a.css"}
 ///
-/// The setting has the paths joined by "^^^". A "^" of a path is stored as "^-", so that no path is taken for two, and
-/// each comes back as it was, whatever it holds, line ends among it. A "^" with anything else behind it stands for
-/// itself, so that a value that was written in any other way is read for what it can be.
+/// The setting has the paths joined as `PathLists` tells, so that each comes back as it was, whatever it holds.
 class RecentFiles {
   public:
     /// The most paths that are kept.
