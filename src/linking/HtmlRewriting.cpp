@@ -32,18 +32,8 @@ std::optional<TextView> FindLinkElement(TextView page, TextView opening) {
     return page.substr(start, end - start + 1);
 }
 
-std::optional<Text> WithElementInHead(TextView page, TextView element) {
-    const std::size_t headEnd = FindLowered(page, u"</head>");
-    if (headEnd == TextView::npos)
-        return std::nullopt;
-    static_cast<void>(Narrow(static_cast<long long>(headEnd)));
-    Text result;
-    result.reserve(page.size() + element.size() + 2);
-    return result.append(page, 0, headEnd).append(element).append(u"  ").append(page, headEnd);
-}
-
 std::optional<Text> WithElement(TextView page, std::optional<TextView> old, TextView element) {
-    return old ? ReplaceOccurrences(page, *old, element) : WithElementInHead(page, element);
+    return old ? ReplaceOccurrences(page, *old, element) : PageWithElementInHead(page, element);
 }
 
 /// Puts `element` into a page by one of the two functions above.
@@ -79,6 +69,16 @@ Text ExtraLinkAttributes(TextView title, TextView media) {
     if (!media.empty())
         attributes += u"media=" + QuoteText(media);
     return attributes.substr(FindNonWhitespace(attributes, 0));
+}
+
+std::optional<Text> PageWithElementInHead(TextView page, TextView element) {
+    const std::size_t headEnd = FindLowered(page, u"</head>");
+    if (headEnd == TextView::npos)
+        return std::nullopt;
+    static_cast<void>(Narrow(static_cast<long long>(headEnd)));
+    Text result;
+    result.reserve(page.size() + element.size() + 2);
+    return result.append(page, 0, headEnd).append(element).append(u"  ").append(page, headEnd);
 }
 
 std::optional<Text> PageWithLink(TextView page, TextView element) {

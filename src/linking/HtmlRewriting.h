@@ -33,6 +33,10 @@ namespace tintora {
 /// element lies beyond the limit of positions.
 [[nodiscard]] std::optional<Text> PageWithLink(TextView page, TextView element);
 
+/// The page with `element` and two blanks directly before its first `</head>`, whatever else it holds; nothing for a
+/// page without one. Throws `OverflowFailure` as `PageWithLink` does.
+[[nodiscard]] std::optional<Text> PageWithElementInHead(TextView page, TextView element);
+
 /// As `PageWithLink`, for the first `<style` element through its `/style>`. Throws `UnclosedElementFailure` as
 /// `FindStyleElement` does.
 [[nodiscard]] std::optional<Text> PageWithStyle(TextView page, TextView element);

@@ -52,13 +52,6 @@ bool SaysReadOnly(const std::error_code& code) {
            code == std::errc::read_only_file_system;
 }
 
-/// A write beyond the process's limit would not only fail but end the process.
-void CheckLimitOfFileSizes(std::size_t size, TextView path) {
-    rlimit limit{};
-    if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY && size > limit.rlim_cur)
-        throw FileFailure(std::make_error_code(std::errc::file_too_large), path);
-}
-
 std::string BytesFor(TextView text, Encoding encoding, TextView path) {
     std::optional<std::string> bytes = EncodeText(text, encoding);
     if (!bytes)
@@ -132,18 +125,24 @@ void WriteFile(TextView path, const MakeBytes& makeBytes, WriteObserver* observe
         WriteNew(path, name, makeBytes, observer);
 }
 
-Text MessageFor(const FileFailure& failure) {
+}  // namespace
+
+std::error_code make_error_code(WriteFault fault) noexcept {
+    static const WriteFaultCategory Category;
+    return {static_cast<int>(fault), Category};
+}
+
+Text WriteFailureMessage(const FileFailure& failure) {
     Text reason = TextFromUtf8(failure.code().message());
     if (failure.code() == WriteFault::ReadOnly)
         return reason;
     return GetFileNamePart(failure.Path()) + u" can't be saved: " + reason + u".";
 }
 
-}  // namespace
-
-std::error_code make_error_code(WriteFault fault) noexcept {
-    static const WriteFaultCategory Category;
-    return {static_cast<int>(fault), Category};
+void CheckLimitOfFileSizes(std::size_t size, TextView path) {
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY && size > limit.rlim_cur)
+        throw FileFailure(std::make_error_code(std::errc::file_too_large), path);
 }
 
 void WriteTextFileOrThrow(TextView path, TextView text, WriteObserver* observer) {
@@ -177,7 +176,7 @@ bool WriteTextFileChecked(TextView path, TextView text, WriteMessages& messages,
     } catch (const FileCreationFailure&) {
         return false;
     } catch (const FileFailure& failure) {
-        messages.ShowWriteFailure(MessageFor(failure));
+        messages.ShowWriteFailure(WriteFailureMessage(failure));
         return false;
     }
 }

@@ -64,6 +64,14 @@ class WriteObserver {
     virtual void AfterFailedWrite(TextView path) = 0;
 };
 
+/// What the user is told about a write that failed: a sentence of its own for a read-only file, otherwise the file's
+/// name and the reason.
+[[nodiscard]] Text WriteFailureMessage(const FileFailure& failure);
+
+/// Throws `FileFailure` where a file of `size` bytes in `path` would be larger than the process may make it: the write
+/// wouldn't only fail, it would end the process.
+void CheckLimitOfFileSizes(std::size_t size, TextView path);
+
 /// What writes a text into the file with a path.
 using FileWriter = std::function<void(TextView path, TextView text)>;
 
@@ -77,8 +85,8 @@ void WriteBytesOrThrow(TextView path, std::string_view bytes);
 /// Writes `text`. A file that can't be written stays as it is, without a word.
 void WriteTextFile(TextView path, TextView text, WriteObserver* observer = nullptr);
 
-/// Writes `text`. A failure is shown to the user: a read-only file by a sentence of its own, any other one with the
-/// file's name and the reason. A file that can't be made is no such failure, and goes without a word.
+/// Writes `text`. A failure is shown to the user by its `WriteFailureMessage`. A file that can't be made is no such
+/// failure, and goes without a word.
 void WriteTextFileWarning(TextView path, TextView text, WriteMessages& messages, WriteObserver* observer = nullptr);
 
 /// As `WriteTextFileWarning`; whether the text was written.

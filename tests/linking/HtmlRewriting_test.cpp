@@ -268,6 +268,16 @@ TEST(HtmlRewriting, AnAlternateLinkReplacesAPlainOneButNotTheOtherWayRound) {
     EXPECT_EQ(PageWithLink(alternate + u"</head>", plain), alternate + plain + u"  </head>");
 }
 
+TEST(HtmlRewriting, AnElementForTheHeadReplacesNone) {
+    const TextView linked = u"<link rel=\"stylesheet\" href=\"a.css\"></HEAD></head>";
+    EXPECT_EQ(PageWithElementInHead(linked, Element), u"<link rel=\"stylesheet\" href=\"a.css\">[E]  </HEAD></head>");
+    EXPECT_EQ(PageWithElementInHead(u"</head>", Element), u"[E]  </head>");
+    EXPECT_EQ(PageWithElementInHead(u"<link rel=\"stylesheet\"></body>", Element), std::nullopt);
+    EXPECT_EQ(PageWithElementInHead(u"", Element), std::nullopt);
+    EXPECT_EQ(PageWithElementInHead(PageOf(u"</head>", 32767), Element), PageOf(u"[E]  </head>", 32767));
+    EXPECT_THROW(static_cast<void>(PageWithElementInHead(PageOf(u"</head>", 32768), Element)), OverflowFailure);
+}
+
 TEST(HtmlRewriting, AHeadThatEndsWithinTheLimitOfPositionsTakesTheElement) {
     const Text page = PageOf(u"</head>" + Text(40000, u'x'), 32767);
     const Text expected = PageOf(u"[E]  </head>" + Text(40000, u'x'), 32767);
