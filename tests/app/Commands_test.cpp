@@ -172,6 +172,99 @@ TEST_F(CommandsTest, TheDialogsOpen) {
     EXPECT_EQ(shown, QStringLiteral("tintora::frmOptions"));
 }
 
+TEST_F(CommandsTest, TheFileDialogOpensAndQuittingClosesTheWindow) {
+    QString shown;
+    WithDialog([&](QWidget& dialog) { shown = dialog.windowTitle(); });
+    Trigger(u"miFOpen");
+    EXPECT_EQ(shown, QStringLiteral("Open"));
+    Trigger(u"miFExit");
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(CommandsTest, PalettesAndToolbarsAreShownHiddenAndArranged) {
+    const auto* const pane = window->findChild<QDockWidget*>(QStringLiteral("dwSelectorsEditor"));
+    const auto* const toolbar = window->findChild<QToolBar*>(QStringLiteral("Basic Properties"));
+    ASSERT_TRUE(pane != nullptr && toolbar != nullptr);
+    Trigger(u"miWHideAllPalettes");
+    EXPECT_TRUE(pane->isHidden());
+    EXPECT_FALSE(Find(u"miWSelectorsEditor")->isChecked());
+    Trigger(u"miWSelectorsEditor");
+    EXPECT_FALSE(pane->isHidden());
+    EXPECT_TRUE(Find(u"miWSelectorsEditor")->isChecked());
+    Trigger(u"miWHideAllPalettes");
+    Trigger(u"miWShowAllPalettes");
+    EXPECT_FALSE(pane->isHidden());
+    Trigger(u"miWHideAllToolbars");
+    EXPECT_TRUE(toolbar->isHidden());
+    Trigger(u"miWShowAllToolbars");
+    EXPECT_FALSE(toolbar->isHidden());
+    Trigger(u"miWUseEditLayout");
+    EXPECT_EQ(window->dockWidgetArea(const_cast<QDockWidget*>(pane)), Qt::RightDockWidgetArea);
+    EXPECT_TRUE(toolbar->isHidden());
+    Trigger(u"miWUseDesignLayout");
+    EXPECT_EQ(window->dockWidgetArea(const_cast<QDockWidget*>(pane)), Qt::LeftDockWidgetArea);
+    EXPECT_FALSE(toolbar->isHidden());
+    Trigger(u"miWUseEditLayout");
+    Trigger(u"miWUseStandardLayout");
+    EXPECT_EQ(window->dockWidgetArea(const_cast<QDockWidget*>(pane)), Qt::LeftDockWidgetArea);
+    Trigger(u"miFCloseWindow");
+    Trigger(u"miWUseEditLayout");
+    EXPECT_TRUE(toolbar->isHidden()) << "without a document the panes are arranged all the same";
+}
+
+TEST_F(CommandsTest, TheArrangementIsKeptFromRunToRun) {
+    const QString layout = folder.filePath(QStringLiteral("Layouts/current"));
+    const auto makeWindow = [&] {
+        window = std::make_unique<frmMain>(store, recovery, std::make_unique<test::RecordedMessages>(told), layout);
+        window->LoadStep(u"");
+        window->show();
+    };
+    makeWindow();
+    Trigger(u"miWUseEditLayout");
+    EXPECT_TRUE(window->close());
+    makeWindow();
+    EXPECT_TRUE(window->findChild<QToolBar*>(QStringLiteral("Basic Properties"))->isHidden());
+    EXPECT_EQ(window->dockWidgetArea(window->findChild<QDockWidget*>(QStringLiteral("dwSelectorsEditor"))),
+              Qt::RightDockWidgetArea);
+}
+
+TEST_F(CommandsTest, TheCommandsOfCorePropertiesChangeTheCurrentRule) {
+    struct StyleCase {
+        const char* key;
+        TextView declaration;
+    };
+    constexpr StyleCase Cases[] = {{"miFoBold", u"font-weight: bold;"},
+                                   {"miFoItalic", u"font-style: italic;"},
+                                   {"miFoUnderline", u"text-decoration: underline;"},
+                                   {"miFoStrikeThrough", u"text-decoration: line-through;"},
+                                   {"miFoLeft", u"text-align: left;"},
+                                   {"miFoCenter", u"text-align: center;"},
+                                   {"miFoRight", u"text-align: right;"},
+                                   {"miFoJustify", u"text-align: justify;"}};
+    auto* const bar = window->findChild<QToolBar*>(QStringLiteral("Basic Properties"));
+    for (const StyleCase& row : Cases) {
+        SCOPED_TRACE(row.key);
+        Restore(20, 20);
+        Document().FollowCaretNow();
+        auto* const action = bar->findChild<QAction*>(QString::fromUtf8(row.key));
+        ASSERT_TRUE(action != nullptr && action->isEnabled());
+        action->trigger();
+        EXPECT_EQ(Utf8FromText(SheetText()), "h1 {color: red;}\np {\n" + Utf8FromText(row.declaration) + "}\n");
+        EXPECT_TRUE(action->isChecked());
+        Trigger(u"miEUndo");
+        EXPECT_EQ(SheetText(), TwoRules) << "each change is one step to undo";
+    }
+    for (const char* const key : {"miColor", "miBackgroundColor"}) {
+        Restore(20, 20);
+        Document().FollowCaretNow();
+        QString title;
+        WithDialog([&](QWidget& dialog) { title = dialog.windowTitle(); });
+        bar->findChild<QAction*>(QString::fromUtf8(key))->trigger();
+        EXPECT_TRUE(title.startsWith(QStringLiteral("Edit "))) << key;
+        EXPECT_EQ(SheetText(), TwoRules);
+    }
+}
+
 TEST_F(CommandsTest, OnlinePagesOpenInTheBrowser) {
     for (const OnlinePage& page : OnlinePages())
         Trigger(page.key);
