@@ -70,6 +70,22 @@ Texts TextsAt(TextView body, const std::vector<DeclarationPlace>& places) {
     return texts;
 }
 
+/// The pieces of a body that a separator ends and `counts` takes. Where it doesn't, the next piece begins with the
+/// separator.
+template <typename Counts>
+Texts ClosedDeclarations(TextView body, Counts counts) {
+    static_cast<void>(NarrowLength(body));
+    if (body.size() < 2 || body == u"{}")
+        return {};
+    const TextView inner = WithoutBraces(body);
+    BodyCutter cutter(inner);
+    cutter.Cut([&](std::size_t index) {
+        if (counts(cutter.Piece(index)))
+            cutter.Take(index, index + 1);
+    });
+    return TextsAt(inner, cutter.Places());
+}
+
 }  // namespace
 
 Text ExtractProperties(TextView statement) {
@@ -99,13 +115,11 @@ Texts ExtractPropertiesAsCollection(TextView statement) {
 }
 
 Texts GetClosedDeclarations(TextView body) {
-    static_cast<void>(NarrowLength(body));
-    if (body.size() < 2 || body == u"{}")
-        return {};
-    const TextView inner = WithoutBraces(body);
-    BodyCutter cutter(inner);
-    cutter.Cut([&](std::size_t index) { cutter.Take(index, index + 1); });
-    return TextsAt(inner, cutter.Places());
+    return ClosedDeclarations(body, [](TextView) { return true; });
+}
+
+Texts GetEditorDeclarations(TextView body) {
+    return ClosedDeclarations(body, [](TextView piece) { return !piece.empty() && piece != u"}"; });
 }
 
 Texts GetStatementProperties(TextView body) { return TextsAt(body, FindStatementProperties(body)); }

@@ -8,7 +8,7 @@
 /// The body of a statement and its declarations.
 ///
 /// A body is what `ExtractProperties` gives, with its braces where the statement has a closing one. A declaration text
-/// is one piece of a body, trimmed; a comment in a body is one too. The three ways to split a body differ, and their
+/// is one piece of a body, trimmed; a comment in a body is one too. The four ways to split a body differ, and their
 /// callers rely on it.
 namespace tintora {
 
@@ -25,6 +25,13 @@ namespace tintora {
 /// The declaration texts of a body that a ";" or "}" ends, without it; a last declaration with no ";" isn't among
 /// them. Nothing between two ends is an entry "", so that the next declaration doesn't begin with a ";".
 [[nodiscard]] Texts GetClosedDeclarations(TextView body);
+
+/// The declaration texts of a body as the property editors see it. They are those of `GetClosedDeclarations`, but that
+/// a
+/// ";" or "}" directly behind another one begins the next declaration text, and "}" alone is none:
+///
+///     GetEditorDeclarations(u"{a: b;; c: d; e: f}")       // "a: b", "; c: d"
+[[nodiscard]] Texts GetEditorDeclarations(TextView body);
 
 /// Where a declaration text stands in its body, trimmed: 0-based.
 struct DeclarationPlace {

@@ -134,6 +134,37 @@ TEST(DeclarationText, ClosedDeclarationsBeginBehindTheEndInFrontOfThem) {
     }
 }
 
+const std::vector<SplitCase> ForEditors = {
+    {u"", {}},
+    {u"{", {}},
+    {u"}", {}},
+    {u"{}", {}},
+    {u"{ }", {}},
+    {u"{color: red; margin: 0}", {u"color: red"}},
+    {u"{color: red; margin: 0;}", {u"color: red", u"margin: 0"}},
+    {u"color: red;", {u"color: red"}},
+    {u"{a:b;;c:d;}", {u"a:b", u";c:d"}},
+    {u"{a:b; ;c:d;}", {u"a:b", u"", u"c:d"}},
+    {u"{;a:b;}", {u";a:b"}},
+    {u"{a: b} c: d;}", {u"a: b", u"c: d"}},
+    {u"{a: b}}} c: d;}", {u"a: b", u"}} c: d"}},
+    {u"{a: b}}; c: d;}", {u"a: b", u"}; c: d"}},
+    {u"{/* x; y */ a: b;}", {u"/* x; y */", u"a: b"}},
+    {u"{a: b; /* x: y */ c: d;}", {u"a: b", u"/* x: y */", u"c: d"}},
+    {u"{a: /* x */ b;}", {u"a: /* x */", u"b"}},
+    {u"{a: b /* x */; c: d;}", {u"a: b /* x */", u"; c: d"}},
+    {u"{/* open; a: b;}", {}},
+    // No quote guards anything.
+    {u"{content: \"a;b\"; quotes: '}';}", {u"content: \"a", u"b\"", u"quotes: '", u"'"}},
+};
+
+TEST(DeclarationText, TheEditorsTakeAnEndBehindAnEndIntoTheNextDeclaration) {
+    for (const SplitCase& row : ForEditors) {
+        SCOPED_TRACE(Utf8FromText(row.text));
+        EXPECT_EQ(GetEditorDeclarations(row.text), row.pieces);
+    }
+}
+
 struct PartsCase {
     Text declaration;
     Text name;
@@ -223,6 +254,7 @@ TEST(DeclarationText, ABodyBeyondTheLimitFails) {
     EXPECT_THROW(static_cast<void>(GetStatementProperties(limit + u";")), OverflowFailure);
     EXPECT_THROW(static_cast<void>(ExtractProperties(limit + u";")), OverflowFailure);
     EXPECT_EQ(GetClosedDeclarations(limit).size(), MaximumTextLength);
+    EXPECT_THROW(static_cast<void>(GetEditorDeclarations(limit + u";")), OverflowFailure);
     EXPECT_THROW(static_cast<void>(GetClosedDeclarations(limit + u";")), OverflowFailure);
 }
 
