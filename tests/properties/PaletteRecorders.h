@@ -1,0 +1,65 @@
+#pragma once
+
+#include "properties/PaletteSurroundings.h"
+#include "text/Encoding.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tintora::test {
+
+using PaletteCalls = std::vector<std::string>;
+
+/// A document that writes down what the palette does to it.
+class RecordingEditedDocument final : public EditedDocument {
+  public:
+    explicit RecordingEditedDocument(PaletteCalls& calls) : calls_(calls) {}
+
+    void ChangeCurrentProperty(TextView name, TextView value) override {
+        calls_.push_back(Utf8FromText(name) + ":" + (value.empty() ? "" : " " + Utf8FromText(value)));
+        if (onChange)
+            onChange();
+    }
+    void UpdatePropertiesEditor() override {
+        calls_.emplace_back("UpdatePropertiesEditor");
+        if (onUpdate)
+            onUpdate();
+    }
+    void PreviewNow() override { calls_.emplace_back("PreviewNow"); }
+    void PreviewCurrentRule() override { calls_.emplace_back("PreviewCurrentRule"); }
+    void DisableNextPreview() override { calls_.emplace_back("DisableNextPreview"); }
+    [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
+    [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
+    [[nodiscard]] Text GetFile() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentColors() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentFonts() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentURLs() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
+
+    /// What the text does while it is changed, and when the palette asks to be filled.
+    std::function<void()> onChange;
+    std::function<void()> onUpdate;
+    Text selector;
+    int selectorType = 5;
+
+  private:
+    PaletteCalls& calls_;
+};
+
+class OneDocument final : public EditedDocuments {
+  public:
+    [[nodiscard]] EditedDocument* GetActiveDocument() override { return document; }
+
+    EditedDocument* document = nullptr;
+};
+
+/// Calls as one text: "a | b".
+inline std::string Joined(const PaletteCalls& calls) {
+    std::string joined;
+    for (const std::string& call : calls)
+        joined += (joined.empty() ? "" : " | ") + call;
+    return joined;
+}
+
+}  // namespace tintora::test
