@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/CorePropertiesToolbar.h"
-#include "shell/qt/ColorQuestion.h"
+#include "properties/qt/ColorQuestion.h"
 #include "text/Text.h"
 
 #include <QToolBar>

@@ -1,4 +1,4 @@
-#include "shell/qt/ColorQuestion.h"
+#include "properties/qt/ColorQuestion.h"
 
 #include <QColorDialog>
 #include <QPointer>
