@@ -79,21 +79,32 @@ Texts ktStyleSheetWindow::GetCurrentStatementProperties() const {
 }
 
 void ktStyleSheetWindow::ChangeCurrentProperty(TextView name, TextView value) {
-    CatchUpWithText();
+    ChangeCurrentProperties({{Text(name), Text(value)}});
+}
+
+void ktStyleSheetWindow::ChangeCurrentProperties(const DeclarationChanges& changes) {
+    if (changes.empty())
+        return;
     {
         const UndoStep step(textEditor_.Buffer());
-        const FoundProperty found = FindProperty(name);
-        if (value.empty())
-            RemovePropertyFromCurrentStatement(name);
-        else if (found.isFound)
-            ChangeExistingProperty(found, value);
-        else
-            AddProperty(found, name, value);
+        for (const DeclarationChange& change : changes)
+            WriteProperty(change.name, change.value);
     }
     CacheStatements();
     UpdateCorePropertiesToolbar();
     needsPreviewing_ = true;
     LivePreview();
+}
+
+void ktStyleSheetWindow::WriteProperty(TextView name, TextView value) {
+    CatchUpWithText();
+    const FoundProperty found = FindProperty(name);
+    if (value.empty())
+        RemoveProperty(found);
+    else if (found.isFound)
+        ChangeExistingProperty(found, value);
+    else
+        AddProperty(found, name, value);
 }
 
 void ktStyleSheetWindow::ChangeExistingProperty(const FoundProperty& found, TextView value) {
@@ -128,7 +139,10 @@ void ktStyleSheetWindow::AddProperty(const FoundProperty& place, TextView name, 
 void ktStyleSheetWindow::RemovePropertyFromCurrentStatement(TextView name) {
     CatchUpWithText();
     const UndoStep step(textEditor_.Buffer());
-    const FoundProperty found = FindProperty(name);
+    RemoveProperty(FindProperty(name));
+}
+
+void ktStyleSheetWindow::RemoveProperty(const FoundProperty& found) {
     if (!found.isFound)
         return;
     ReplaceText({}, found.start, found.end);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DeclarationChange.h"
 #include "document/DocumentSurroundings.h"
 #include "document/KeyRoad.h"
 #include "document/KnownFile.h"
@@ -276,6 +277,9 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     // Properties of the current statement.
 
     void ChangeCurrentProperty(TextView name, TextView value);
+
+    /// Several changes, one after another, as one: one step to undo, and one preview. No changes do nothing.
+    void ChangeCurrentProperties(const DeclarationChanges& changes);
     void RemovePropertyFromCurrentStatement(TextView name);
     void SelectPropertyInCurrentStatement(TextView name);
 
@@ -372,8 +376,10 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     void InsertAtTop(TextView block);
     void InsertRuleSet(int number);
     void InsertStatement(TextView kind, TextView value);
+    void WriteProperty(TextView name, TextView value);
     void ChangeExistingProperty(const FoundProperty& found, TextView value);
     void AddProperty(const FoundProperty& place, TextView name, TextView value);
+    void RemoveProperty(const FoundProperty& found);
 
     DocumentFrame& frame_;
     StatementsPalette& statements_;

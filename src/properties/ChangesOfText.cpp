@@ -33,32 +33,32 @@ ShownValue WithReported(const ShownValue& valueOf, int number, TextView value) {
     return [&valueOf, number, value](int asked) { return asked == number ? Text(value) : valueOf(asked); };
 }
 
-PropertyChanges RemovalsOf(const PropertyValues& parts) {
-    PropertyChanges changes;
+DeclarationChanges RemovalsOf(const PropertyValues& parts) {
+    DeclarationChanges changes;
     for (const PropertyValue& part : parts)
         changes.push_back({NameOf(part.number), u""});
     return changes;
 }
 
-PropertyChanges ChangesOfFont(int editor, const EditorState& state, const ShownValue& shown) {
+DeclarationChanges ChangesOfFont(int editor, const EditorState& state, const ShownValue& shown) {
     const auto valueOf = [&](int number) {
         const auto kept = state.fontParts.find(number);
         return kept == state.fontParts.end() ? shown(number) : kept->second;
     };
     const PropertyValues parts = FontPartsToWrite(valueOf);
-    PropertyChanges changes = editor == TextStyle ? RemovalsOf(parts) : PropertyChanges();
+    DeclarationChanges changes = editor == TextStyle ? RemovalsOf(parts) : DeclarationChanges();
     changes.push_back({u"font", JoinFont(parts)});
     return changes;
 }
 
-PropertyChanges ChangesOfBackground(const ShownValue& shown) {
+DeclarationChanges ChangesOfBackground(const ShownValue& shown) {
     const PropertyValues parts = BackgroundPartsToWrite(shown);
-    PropertyChanges changes = RemovalsOf(parts);
+    DeclarationChanges changes = RemovalsOf(parts);
     changes.push_back({u"background", JoinValues(parts)});
     return changes;
 }
 
-PropertyChanges ChangesOfBox(const EditorState& state, const PropertyChange& plain, const ShownValue& shown) {
+DeclarationChanges ChangesOfBox(const EditorState& state, const DeclarationChange& plain, const ShownValue& shown) {
     const bool isMargin = Has(plain.name, u"margin");
     if (!(isMargin ? state.marginIsShorthand : state.paddingIsShorthand))
         return {plain};
@@ -72,9 +72,9 @@ Text ValueOrList(int number, TextView value, const ShownValue& valueOf) {
 
 }  // namespace
 
-PropertyChanges ChangesOfText(int editor, const EditorState& state, int number, TextView value,
-                              const ShownValue& valueOf) {
-    const PropertyChange plain{NameOf(number), Text(value)};
+DeclarationChanges ChangesOfText(int editor, const EditorState& state, int number, TextView value,
+                                 const ShownValue& valueOf) {
+    const DeclarationChange plain{NameOf(number), Text(value)};
     const ShownValue shown = WithReported(valueOf, number, value);
     switch (editor) {
         case TextStyle:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DeclarationChange.h"
 #include "properties/DeclarationReading.h"
 #include "properties/PropertyValues.h"
 #include "text/Text.h"
@@ -16,7 +17,7 @@ namespace tintora {
 /// - A side of a box is written with its shorthand, and so is the control for all sides, whose value is lost.
 /// - An edge is always written whole, under the name of its side.
 /// - For the value "list" the list of parts is asked for. The keyword that waits to be added changes nothing.
-[[nodiscard]] PropertyChanges ChangesOfText(int editor, const EditorState& state, int number, TextView value,
-                                            const ShownValue& valueOf);
+[[nodiscard]] DeclarationChanges ChangesOfText(int editor, const EditorState& state, int number, TextView value,
+                                               const ShownValue& valueOf);
 
 }  // namespace tintora

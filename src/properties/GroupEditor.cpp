@@ -16,6 +16,18 @@ namespace {
 constexpr int Position = 1029;
 constexpr int Display = 1090;
 
+void WriteChanges(EditedDocument& document, const DeclarationChanges& changes) {
+    if (changes.empty())
+        return;
+    if (changes.size() == 1) {
+        document.ChangeCurrentProperty(changes.front().name, changes.front().value);
+        return;
+    }
+    // The preview that waits would show the rule as it was.
+    document.DisableNextPreview();
+    document.ChangeCurrentProperties(changes);
+}
+
 }  // namespace
 
 GroupEditor::GroupEditor(int number, const Surroundings& surroundings) : number_(number), surroundings_(surroundings) {}
@@ -48,8 +60,7 @@ void GroupEditor::PropertyHasChanged(TextView value, int number) {
             return;
         }
         const auto valueOf = [this](int asked) { return surroundings_.controls.GetValue(asked); };
-        for (const PropertyChange& change : ChangesOfText(number_, state_, number, value, valueOf))
-            document->ChangeCurrentProperty(change.name, change.value);
+        WriteChanges(*document, ChangesOfText(number_, state_, number, value, valueOf));
     }
     if (number_ != group_editor::DisplayType || number == Display)
         UpdateEditors();

@@ -32,7 +32,8 @@ class GroupEditor {
     /// Shows declaration texts. During a change of the text it does nothing.
     void SetProperties(const Texts& declarations);
 
-    /// A control reports a value. While the controls are filled, and during another change, it does nothing.
+    /// A control reports a value. While the controls are filled, and during another change, it does nothing. Whatever
+    /// has to change for it in the text, the user takes back in one step.
     ///
     /// Without a document `ChangingProperty` stays set: nobody enables the controls as long as none is open.
     void PropertyHasChanged(TextView value, int number);

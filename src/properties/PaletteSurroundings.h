@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DeclarationChange.h"
 #include "language/FrontDocument.h"
 #include "text/Text.h"
 
@@ -12,6 +13,9 @@ class EditedDocument : public FrontDocument {
   public:
     /// The declaration of the current rule gets the value; "" removes it.
     virtual void ChangeCurrentProperty(TextView name, TextView value) = 0;
+
+    /// Several changes, one after another, that the user takes back together.
+    virtual void ChangeCurrentProperties(const DeclarationChanges& changes) = 0;
 
     /// Fills the palette from the text again.
     virtual void UpdatePropertiesEditor() = 0;

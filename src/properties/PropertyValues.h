@@ -21,16 +21,6 @@ using PropertyValues = std::vector<PropertyValue>;
 /// What the control with a number shows now; "" for nothing, and for a number that has no control.
 using ShownValue = std::function<Text(int number)>;
 
-/// One change of the text: a declaration of the current rule gets a value, or goes where the value is "".
-struct PropertyChange {
-    Text name;
-    Text value;
-
-    friend bool operator==(const PropertyChange&, const PropertyChange&) = default;
-};
-
-using PropertyChanges = std::vector<PropertyChange>;
-
 /// The parts as one value: their values with a blank between.
 [[nodiscard]] Text JoinValues(const PropertyValues& parts);
 

@@ -268,6 +268,36 @@ TEST_F(Properties, SeveralChangesInARowFindTheTextOfTheLast) {
     EXPECT_EQ(Drawn(), "h1 {\n|margin: 0;}\np {}\n");
 }
 
+TEST_F(Properties, SeveralChangesTogetherAreOneStepToUndo) {
+    const DeclarationChanges changes = {
+        {u"font-size", u""}, {u"left", u""}, {u"font", u"12px serif"}, {u"top", u"1px"}};
+    const Text before = u"p {font-size: 9px; TOP: 0; color: red}\nq {}";
+    Load(u"p {font-size: 9px; TOP: 0; color: red|}\nq {}");
+    window.ChangeCurrentProperties(changes);
+    const Text after = u"p { TOP: 1px; color: red;\nfont: 12px serif;}\nq {}";
+    EXPECT_EQ(window.GetText(), after);
+    EXPECT_EQ(Drawn(), "p { TOP: 1px|; color: red;\nfont: 12px serif;}\nq {}");
+    // The text is read again for each change of it, and shown once.
+    EXPECT_EQ(TakeCalls(), (Calls{"Dirty", "CacheStatements", "CacheStatements", "CacheStatements", "EnableToolbar",
+                                  "SetUpToolbar { TOP: 1px; color: red;\nfont: 12px serif;}"}));
+    window.CSSEditor().Undo();
+    EXPECT_EQ(window.GetText(), before);
+    EXPECT_FALSE(window.CSSEditor().CanUndo());
+    window.CSSEditor().Redo();
+    EXPECT_EQ(window.GetText(), after);
+}
+
+TEST_F(Properties, SeveralChangesTogetherPreviewOnce) {
+    Load(u"p {font-size: 9px;|}");
+    window.ChangeCurrentProperties({{u"font-size", u""}, {u"font", u"12px serif"}});
+    calls.clear();
+    Wait(5000);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "PreviewNow"), 1);
+    window.ChangeCurrentProperties({});
+    EXPECT_FALSE(window.NeedsPreviewing());
+    EXPECT_EQ(window.RunningTimers(), Texts{});
+}
+
 TEST_F(Properties, AStoredSeparatorIsWrittenInFrontOfANewProperty) {
     SetPropertySeparator(settings, u"\r\t");
     Load(u"h1 {color: red;| }");

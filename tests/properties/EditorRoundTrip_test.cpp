@@ -218,6 +218,13 @@ TEST(EditorRoundTrip, ShorthandsAreRewrittenWhereTheyStand) {
         SetModelValue(palette.controls.models.at(row.number), row.value);
         palette.Report(row.number);
         EXPECT_EQ(palette.SheetText(), row.after);
+        // Whatever it took, it is taken back at once.
+        palette.recorded.window.CSSEditor().Undo();
+        EXPECT_EQ(palette.recorded.window.GetText(), ReadMarks(row.before).text);
+        EXPECT_FALSE(palette.recorded.window.CSSEditor().CanUndo());
+        palette.recorded.window.CSSEditor().Redo();
+        palette.recorded.Settle();
+        EXPECT_EQ(palette.SheetText(), row.after);
         palette.Read();
         palette.Report(row.number);
         EXPECT_EQ(palette.SheetText(), row.after);

@@ -82,7 +82,7 @@ TEST(GroupEditor, AChangedLonghandRewritesTheFont) {
     palette.Read(u"{font: 12px serif;}");
     EXPECT_TRUE(palette.editor.State().isShorthand);
     palette.Enter(1001, u"14");
-    EXPECT_EQ(palette.TakeCalls(), "font-size: | font-family: | font: 14px serif");
+    EXPECT_EQ(palette.TakeCalls(), "DisableNextPreview | Together 3 | font-size: | font-family: | font: 14px serif");
 }
 
 TEST(GroupEditor, ALonghandBesideTheFontTurnsToLonghands) {
@@ -96,7 +96,7 @@ TEST(GroupEditor, ShorthandsAreMadeFromTheFirstChangeOn) {
     EditorWithDocument text(TextStyle, true);
     text.Read(u"{}");
     text.Choose(1002, u"bold");
-    EXPECT_EQ(text.TakeCalls(), "font-weight: | font: bold");
+    EXPECT_EQ(text.TakeCalls(), "DisableNextPreview | Together 2 | font-weight: | font: bold");
     EditorWithDocument box(MarginPadding, true);
     box.Read(u"{}");
     box.Enter(1020, u"3", u"px");
@@ -104,7 +104,8 @@ TEST(GroupEditor, ShorthandsAreMadeFromTheFirstChangeOn) {
     EditorWithDocument background(Background, true);
     background.Read(u"{background-color: red;}");
     background.Choose(1016, u"repeat");
-    EXPECT_EQ(background.TakeCalls(), "background-color: | background-repeat: | background: red repeat");
+    EXPECT_EQ(background.TakeCalls(),
+              "DisableNextPreview | Together 3 | background-color: | background-repeat: | background: red repeat");
 }
 
 TEST(GroupEditor, TheTextEditorRewritesTheFontForTheLineHeightAlone) {
@@ -139,7 +140,8 @@ TEST(GroupEditor, ABackgroundIsWrittenWhole) {
               "1003 [url(a.gif)], 1015 [#fff], 1016 [no-repeat], 1017 [fixed], 1018 [10px 20px]");
     palette.Choose(1016, u"repeat");
     EXPECT_EQ(palette.TakeCalls(),
-              "background-color: | background-image: | background-repeat: | background-attachment: | "
+              "DisableNextPreview | Together 6 | background-color: | background-image: | background-repeat: | "
+              "background-attachment: | "
               "background-position: | background: #fff url(a.gif) repeat fixed 10px 20px");
 }
 

@@ -21,6 +21,11 @@ class RecordingEditedDocument final : public EditedDocument {
         if (onChange)
             onChange();
     }
+    void ChangeCurrentProperties(const DeclarationChanges& changes) override {
+        calls_.push_back("Together " + std::to_string(changes.size()));
+        for (const DeclarationChange& change : changes)
+            ChangeCurrentProperty(change.name, change.value);
+    }
     void UpdatePropertiesEditor() override {
         calls_.emplace_back("UpdatePropertiesEditor");
         if (onUpdate)

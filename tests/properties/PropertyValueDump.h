@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DeclarationChange.h"
 #include "properties/PropertyValues.h"
 #include "text/Encoding.h"
 
@@ -18,9 +19,9 @@ inline std::string Dump(const PropertyValues& values) {
 }
 
 /// "font-size: | font: 12px serif"; a name with nothing behind it is removed.
-inline std::string Dump(const PropertyChanges& changes) {
+inline std::string Dump(const DeclarationChanges& changes) {
     std::string dump;
-    for (const PropertyChange& change : changes) {
+    for (const DeclarationChange& change : changes) {
         dump += dump.empty() ? "" : " | ";
         dump += Utf8FromText(change.name) + ":" + (change.value.empty() ? "" : " " + Utf8FromText(change.value));
     }

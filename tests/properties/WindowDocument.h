@@ -15,6 +15,10 @@ class WindowDocument final : public EditedDocument {
         window_.ChangeCurrentProperty(name, value);
         ++changeCount;
     }
+    void ChangeCurrentProperties(const DeclarationChanges& changes) override {
+        window_.ChangeCurrentProperties(changes);
+        changeCount += static_cast<int>(changes.size());
+    }
     void UpdatePropertiesEditor() override { window_.UpdatePropertiesEditor(); }
     void PreviewNow() override { window_.PreviewNow(); }
     void PreviewCurrentRule() override { window_.PreviewCurrentRule(); }
