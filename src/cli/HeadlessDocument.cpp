@@ -67,6 +67,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     void SelectPropertyinText(TextView name) override { calls.push_back(u"SelectPropertyinText " + Text(name)); }
     void EditProperty(TextView) override {}
     void SetLastProperty(int) override {}
+    [[nodiscard]] bool IsChangingProperty() const override { return isPaletteWriting; }
 
     void PreviewNow() override { calls.emplace_back(u"PreviewNow"); }
     void PreviewCurrentRule() override { calls.emplace_back(u"PreviewCurrentRule"); }
@@ -102,6 +103,7 @@ class HeadlessDocument::Surroundings final : public DocumentFrame,
     Texts calls;
     Text answer;
     Text clipboardText;
+    bool isPaletteWriting = false;
     NoRecoveryCopies recovery;
 };
 
@@ -127,6 +129,8 @@ void HeadlessDocument::Open(TextView text) {
 }
 
 void HeadlessDocument::SetAnswer(TextView answer) { surroundings_->answer = answer; }
+
+void HeadlessDocument::SetPaletteWrites(bool isWriting) { surroundings_->isPaletteWriting = isWriting; }
 
 void HeadlessDocument::PressKey(char16_t character) {
     CSSEditorSrcView& editor = window_->CSSEditor();

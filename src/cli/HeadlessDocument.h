@@ -30,6 +30,9 @@ class HeadlessDocument {
     /// What the next dialog answers; "" cancels it.
     void SetAnswer(TextView answer);
 
+    /// Whether changes of properties come from the palette of properties from now on.
+    void SetPaletteWrites(bool isWriting);
+
     /// The whole road of a key that types one character. "\b" is Backspace, U+007F Delete.
     void PressKey(char16_t character);
 

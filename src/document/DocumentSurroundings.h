@@ -133,6 +133,9 @@ class PropertiesPalette {
 
     /// The feature that was shown last: the type of the current selector.
     virtual void SetLastProperty(int feature) = 0;
+
+    /// Whether the text is being changed by the palette: it shows that change already, and must not be filled from it.
+    [[nodiscard]] virtual bool IsChangingProperty() const = 0;
 };
 
 /// The preview panes.

@@ -94,6 +94,7 @@ void ktStyleSheetWindow::ChangeCurrentProperties(const DeclarationChanges& chang
     UpdateCorePropertiesToolbar();
     needsPreviewing_ = true;
     LivePreview();
+    FollowChangeOfPalette();
 }
 
 void ktStyleSheetWindow::WriteProperty(TextView name, TextView value) {

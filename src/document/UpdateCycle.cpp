@@ -110,7 +110,7 @@ void ktStyleSheetWindow::ClearSelectorsPalette() {
 }
 
 void ktStyleSheetWindow::UpdatePropertiesEditor() {
-    if (!IsInFront() || !properties_.IsOpen())
+    if (!IsInFront() || !properties_.IsOpen() || properties_.IsChangingProperty())
         return;
     const int offset = GetSelectionStart();
     const int type = styleSheet_.GetSelectorType(styleSheet_.GetSelectorFromSelection(offset));
@@ -149,27 +149,45 @@ void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
 void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
     if (!IsInFront())
         return;
-    const Text name = styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(offset));
     const int number = GetCurrentStatementNumber(offset);
     statements_.SelectStatement(number);
+    const bool isPaletteWriting = properties_.IsChangingProperty();
     // The caret at the end of the text may belong to the last statement without the number having changed.
-    const bool isOther = number != lastSelectedStatement_ || number == StatementCount();
+    const bool isOther = number != lastSelectedStatement_ || (number == StatementCount() && !isPaletteWriting);
     if (isOther) {
         lastSelectedStatement_ = number;
         UpdateCorePropertiesToolbar();
         UpdatePropertiesEditor();
-        if (Settings(settings_).GetLivePreviewOn())
+        if (!isPaletteWriting && Settings(settings_).GetLivePreviewOn())
             preview_.PreviewCurrentRule();
     }
+    if (!isPaletteWriting)
+        ShowPropertyAtCaret(styleSheet_.GetPropertyName(styleSheet_.GetPropertyAtSelection(offset)));
+    frame_.UpdateMenus();
+}
+
+void ktStyleSheetWindow::ShowPropertyAtCaret(TextView name) {
     if (properties_.IsOpen())
         properties_.SelectPropertyinText(name);
-    if (!GetCurrentSelector().empty() && name.empty()) {
-        const int type = GetCurrentSelectorType();
-        warnings_.SetUpWarnings(type);
-        if (properties_.IsOpen())
-            properties_.SetLastProperty(type);
+    if (!name.empty() || GetCurrentSelector().empty())
+        return;
+    const int type = GetCurrentSelectorType();
+    warnings_.SetUpWarnings(type);
+    if (properties_.IsOpen())
+        properties_.SetLastProperty(type);
+}
+
+void ktStyleSheetWindow::FollowChangeOfPalette() {
+    if (!properties_.IsChangingProperty())
+        return;
+    const int offset = GetSelectionStart();
+    // A palette that shows another rule than the one it has changed must come to this one, though not at once.
+    if (GetCurrentStatementNumber(offset) != lastSelectedStatement_) {
+        selectionChangedDelay_->Restart();
+        return;
     }
-    frame_.UpdateMenus();
+    selectionChangedDelay_->Stop();
+    SelectionChangedEvent(offset);
 }
 
 void ktStyleSheetWindow::FollowCaretNow() {

@@ -219,7 +219,8 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     void DisablePropertiesEditors();
     void UpdateCorePropertiesToolbar();
 
-    /// Brings the palettes to a new place of the caret.
+    /// Brings the palettes to a new place of the caret. The palette of properties is left alone while it changes the
+    /// text itself, and the preview then waits for its time.
     void SelectionChangedEvent(int offset);
 
     /// The same for a move of the caret that still waits for its timer: whoever changes the current rule must not
@@ -359,6 +360,11 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     /// The selector of the statement at the caret, which `GetCurrentSelector` may lag behind.
     [[nodiscard]] Text SelectorAtCaret() const;
     void FinishChange();
+    void ShowPropertyAtCaret(TextView name);
+
+    /// What the palette of properties has changed has moved the caret: the others follow at once, so that nothing comes
+    /// later that would fill the controls in the user's hands.
+    void FollowChangeOfPalette();
     [[nodiscard]] bool IsInFront() const { return frame_.IsActiveDocument(); }
     [[nodiscard]] bool MayOverwrite(TextView path, TextView present);
     void SaveInto(const Text& path);

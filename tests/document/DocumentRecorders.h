@@ -75,19 +75,45 @@ class RecordingStatements final : public StatementsPalette {
     Calls& calls_;
 };
 
+/// The palette of properties, in front of another one if there is one.
 class RecordingProperties final : public PropertiesPalette {
   public:
     explicit RecordingProperties(Calls& calls) : calls_(calls) {}
 
     [[nodiscard]] bool IsOpen() const override { return isOpen; }
-    void Enable() override { calls_.emplace_back("Enable"); }
-    void Disable() override { calls_.emplace_back("Disable"); }
-    void SetProperties(TextView body) override { calls_.push_back("SetProperties " + Utf8FromText(body)); }
-    void SelectPropertyinText(TextView name) override { calls_.push_back("SelectProperty " + Utf8FromText(name)); }
+    void Enable() override {
+        calls_.emplace_back("Enable");
+        if (next != nullptr)
+            next->Enable();
+    }
+    void Disable() override {
+        calls_.emplace_back("Disable");
+        if (next != nullptr)
+            next->Disable();
+    }
+    void SetProperties(TextView body) override {
+        calls_.push_back("SetProperties " + Utf8FromText(body));
+        if (next != nullptr)
+            next->SetProperties(body);
+    }
+    void SelectPropertyinText(TextView name) override {
+        calls_.push_back("SelectProperty " + Utf8FromText(name));
+        if (next != nullptr)
+            next->SelectPropertyinText(name);
+    }
     void EditProperty(TextView name) override { calls_.push_back("EditProperty " + Utf8FromText(name)); }
-    void SetLastProperty(int feature) override { calls_.push_back("SetLastProperty " + std::to_string(feature)); }
+    void SetLastProperty(int feature) override {
+        calls_.push_back("SetLastProperty " + std::to_string(feature));
+        if (next != nullptr)
+            next->SetLastProperty(feature);
+    }
+    [[nodiscard]] bool IsChangingProperty() const override {
+        return isWriting || (next != nullptr && next->IsChangingProperty());
+    }
 
     bool isOpen = true;
+    bool isWriting = false;
+    PropertiesPalette* next = nullptr;
 
   private:
     Calls& calls_;

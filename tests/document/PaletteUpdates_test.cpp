@@ -149,6 +149,81 @@ TEST_F(PaletteUpdates, TheLastStatementIsAlwaysRefreshed) {
     EXPECT_TRUE(Has(calls, "PreviewCurrentRule"));
 }
 
+// A change by the palette of properties.
+
+TEST_F(PaletteUpdates, AChangeByThePaletteIsFollowedAtOnceByAllOthers) {
+    Load(u"a {}\nb {top: 0|;\nleft: 0;}\nc {}");
+    properties.isWriting = true;
+    window.ChangeCurrentProperty(u"left", u"5px");
+    properties.isWriting = false;
+    EXPECT_EQ(TakeCalls(), (Calls{"Dirty", "CacheStatements", "EnableToolbar", "SetUpToolbar {top: 0;\nleft: 5px;}",
+                                  "SelectStatement 2"}));
+    EXPECT_FALSE(IsRunning(u"SelectionChangedDelay"));
+    Wait(1499);
+    EXPECT_EQ(TakeCalls(), Calls{"CacheStatements"});
+    Wait(1);
+    EXPECT_EQ(TakeCalls(), (Calls{"PreviewNow", "PreviewCurrentRule"}));
+}
+
+TEST_F(PaletteUpdates, NothingRefillsThePaletteAfterItsOwnChanges) {
+    for (const TextView drawn :
+         {u"a {top: 0|;}", u"a {}\nb {|}", u"a {}\nb {|}\nc {}", u"a {} b {left: 0; top: 1px;|"}) {
+        Load(drawn);
+        SCOPED_TRACE(Drawn());
+        for (int count = 0; count < 200; ++count) {
+            properties.isWriting = true;
+            window.ChangeCurrentProperty(u"top", Text(static_cast<std::size_t>(count % 7), u'1') + u"px");
+            properties.isWriting = false;
+            Wait(100);
+        }
+        EXPECT_FALSE(WasPreviewed());
+        EXPECT_FALSE(Has(calls, "PreviewCurrentRule"));
+        Wait(5000);
+        EXPECT_TRUE(WasPreviewed());
+        for (const std::string& call : TakeCalls()) {
+            EXPECT_FALSE(call.starts_with("SetProperties") || call.starts_with("SelectProperty") || call == "Enable" ||
+                         call == "Disable" || call.starts_with("SetLastProperty") || call.starts_with("SetUpWarnings"))
+                << call;
+        }
+    }
+}
+
+TEST_F(PaletteUpdates, APaletteThatHasChangedARuleThatItDoesNotShowComesToIt) {
+    Load(u"a {top: 0|}\nb {left: 0;}\nc {}");
+    window.SetSelection(16, 16);
+    Wait(400);
+    properties.isWriting = true;
+    window.ChangeCurrentProperty(u"left", u"5px");
+    properties.isWriting = false;
+    EXPECT_FALSE(Has(calls, "SetProperties {left: 5px;}"));
+    EXPECT_EQ(window.LastSelectedStatement(), 1);
+    Wait(499);
+    EXPECT_FALSE(Has(calls, "SetProperties {left: 5px;}"));
+    Wait(1);
+    EXPECT_TRUE(Has(calls, "SetProperties {left: 5px;}"));
+    EXPECT_EQ(window.LastSelectedStatement(), 2);
+}
+
+TEST_F(PaletteUpdates, AChangeByOthersIsFollowedInItsTime) {
+    Load(u"a {}\nb {left: 0;|\ntop: 0;}");
+    window.ChangeCurrentProperty(u"top", u"5px");
+    EXPECT_EQ(TakeCalls(), (Calls{"Dirty", "CacheStatements", "EnableToolbar", "SetUpToolbar {left: 0;\ntop: 5px;}"}));
+    EXPECT_TRUE(IsRunning(u"SelectionChangedDelay"));
+    Wait(500);
+    EXPECT_TRUE(Has(calls, "SetProperties {left: 0;\ntop: 5px;}"));
+    EXPECT_TRUE(Has(calls, "SelectProperty top"));
+}
+
+TEST_F(PaletteUpdates, WhileThePaletteWritesItIsNotFilled) {
+    Load(u"a {}\nb {left: 0|;}");
+    properties.isWriting = true;
+    window.UpdateEditors();
+    EXPECT_EQ(TakeCalls(), (Calls{"UpdateSelectors b", "EnableToolbar", "SetUpToolbar {left: 0;}"}));
+    frame.isInFront = false;
+    window.ChangeCurrentProperty(u"left", u"5px");
+    EXPECT_EQ(TakeCalls(), (Calls{"Dirty", "CacheStatements"}));
+}
+
 TEST_F(PaletteUpdates, InASelectorTheWarningsOfItsTypeAreShown) {
     Load(u"a {}\n.b| {top: 0}\nc {}");
     window.SelectionChangedEvent(6);

@@ -18,6 +18,7 @@ class UnbuiltPalettes final : public PropertiesPalette,
     void SelectPropertyinText(TextView) override {}
     void EditProperty(TextView) override {}
     void SetLastProperty(int) override {}
+    [[nodiscard]] bool IsChangingProperty() const override { return false; }
     void PreviewNow() override {}
     void PreviewCurrentRule() override {}
     void SetUpWarnings(int) override {}
