@@ -169,7 +169,7 @@ TEST(EditorRoundTrip, WhatAControlOffersIsWrittenAloneAndReadBack) {
             }
             const Text name(PropertyNameFromNumber(row.number));
             EXPECT_EQ(palette.recorded.window.GetText(), FormatMessage(WithDeclaration, name, value));
-            EXPECT_EQ(palette.document.changeCount, 1);
+            EXPECT_EQ(palette.document.changes.size(), 1U);
             palette.Read();
             EXPECT_TRUE(IsBareNumber(value) || palette.controls.Shown() == shown) << palette.controls.Shown();
             EXPECT_FALSE(palette.flags.SettingUp || palette.flags.ChangingProperty);

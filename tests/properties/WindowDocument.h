@@ -13,11 +13,11 @@ class WindowDocument final : public EditedDocument {
 
     void ChangeCurrentProperty(TextView name, TextView value) override {
         window_.ChangeCurrentProperty(name, value);
-        ++changeCount;
+        changes.push_back({Text(name), Text(value)});
     }
-    void ChangeCurrentProperties(const DeclarationChanges& changes) override {
-        window_.ChangeCurrentProperties(changes);
-        changeCount += static_cast<int>(changes.size());
+    void ChangeCurrentProperties(const DeclarationChanges& wanted) override {
+        window_.ChangeCurrentProperties(wanted);
+        changes.insert(changes.end(), wanted.begin(), wanted.end());
     }
     void UpdatePropertiesEditor() override { window_.UpdatePropertiesEditor(); }
     void PreviewNow() override { window_.PreviewNow(); }
@@ -37,7 +37,8 @@ class WindowDocument final : public EditedDocument {
     }
     [[nodiscard]] Texts Declarations() const { return GetEditorDeclarations(Body()); }
 
-    int changeCount = 0;
+    /// What has been changed, in order.
+    DeclarationChanges changes;
 
   private:
     ktStyleSheetWindow& window_;
