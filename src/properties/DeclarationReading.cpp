@@ -77,7 +77,8 @@ class Reader {
 
     void ReadBox(int shorthand, const Text& value) {
         PropertyValues sides = TakeSidesApart(shorthand, value);
-        if (sides.size() > 1)
+        // One word is for all sides. A value without words counts as a shorthand of the sides too.
+        if (sides.size() != 1)
             (shorthand == box::Margin ? reading_.state.marginIsShorthand : reading_.state.paddingIsShorthand) = true;
         std::ranges::move(sides, std::back_inserter(reading_.values));
     }

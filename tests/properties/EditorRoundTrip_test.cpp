@@ -206,6 +206,7 @@ const std::vector<StoryCase> Stories = {
     {4, false, u"p {margin: 1px 2px;|}", 1020, u"3px", "p {margin: 3px 2px 1px 2px;}"},
     {4, false, u"p {margin: 1px;|}", 1020, u"3px", "p {margin: 1px;\nmargin-top: 3px;}"},
     {4, false, u"p {margin: 1px;|}", 1019, u"auto", "p {margin: auto;}"},
+    {4, false, u"p {margin: ;|}", 1020, u"3px", "p {margin: 3px;}"},
     {3, false, u"p {border-top-color: red;|}", 1055, u"solid", "p {border-top-color: red;\nborder-top: red solid;}"},
     {9, false, u"p {outline-color: red;|}", 1073, u"solid", "p {outline-color: red;\noutline: red solid;}"},
     {5, false, u"p {top: 0; left: 0;|}", 1031, u"-5px", "p {top: 0; left: -5px;}"},
