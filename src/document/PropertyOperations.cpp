@@ -48,7 +48,8 @@ ktStyleSheetWindow::FoundProperty ktStyleSheetWindow::FindProperty(TextView name
         return nowhere;
     const Text entry = styleSheet_.getNthStatementAsTextUnstripped(number - 1);
     const TextView statement = TrimmedView(entry);
-    const int start = CurrentTrueStart() + static_cast<int>(statement.data() - entry.data());
+    const auto entryStart = static_cast<int>(styleSheet_.GetStatementOrigin(number).start);
+    const int start = entryStart + static_cast<int>(statement.data() - entry.data());
     const Text body = styleSheet_.ExtractProperties(statement);
     // The body is the end of its statement.
     const int bodyStart = start + static_cast<int>(statement.size() - body.size());

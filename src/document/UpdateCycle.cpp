@@ -147,9 +147,11 @@ void ktStyleSheetWindow::UpdateCorePropertiesToolbar() {
 }
 
 void ktStyleSheetWindow::SelectionChangedEvent(int offset) {
-    if (!IsInFront())
-        return;
-    const int number = GetCurrentStatementNumber(offset);
+    if (IsInFront())
+        BringPalettesTo(offset, GetCurrentStatementNumber(offset));
+}
+
+void ktStyleSheetWindow::BringPalettesTo(int offset, int number) {
     statements_.SelectStatement(number);
     const bool isPaletteWriting = properties_.IsChangingProperty();
     // The caret at the end of the text may belong to the last statement without the number having changed.
@@ -178,16 +180,17 @@ void ktStyleSheetWindow::ShowPropertyAtCaret(TextView name) {
 }
 
 void ktStyleSheetWindow::FollowChangeOfPalette() {
-    if (!properties_.IsChangingProperty())
+    if (!IsInFront() || !properties_.IsChangingProperty())
         return;
     const int offset = GetSelectionStart();
+    const int number = GetCurrentStatementNumber(offset);
     // A palette that shows another rule than the one it has changed must come to this one, though not at once.
-    if (GetCurrentStatementNumber(offset) != lastSelectedStatement_) {
+    if (number != lastSelectedStatement_) {
         selectionChangedDelay_->Restart();
         return;
     }
     selectionChangedDelay_->Stop();
-    SelectionChangedEvent(offset);
+    BringPalettesTo(offset, number);
 }
 
 void ktStyleSheetWindow::FollowCaretNow() {

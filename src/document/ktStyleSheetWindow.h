@@ -360,6 +360,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
     /// The selector of the statement at the caret, which `GetCurrentSelector` may lag behind.
     [[nodiscard]] Text SelectorAtCaret() const;
     void FinishChange();
+    void BringPalettesTo(int offset, int number);
     void ShowPropertyAtCaret(TextView name);
 
     /// What the palette of properties has changed has moved the caret: the others follow at once, so that nothing comes
