@@ -1,5 +1,6 @@
 // document_switch: how long it takes to go to another open style sheet until that is painted and its statements are
-// listed, on the offscreen platform, with two style sheets of 30,000 characters. Prints milliseconds.
+// listed, on the offscreen platform, with two style sheets of 30,000 characters, each previewed when
+// it comes to the front. Prints milliseconds.
 
 #include "Latency.h"
 #include "Sheets.h"
@@ -7,8 +8,11 @@
 #include "settings/MemorySettingsStore.h"
 #include "shell/qt/Application.h"
 #include "shell/qt/frmMain.h"
+#include "text/qt/QtText.h"
 
+#include <QDir>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 int main(int argc, char** argv) {
@@ -17,7 +21,12 @@ int main(int argc, char** argv) {
     const Application application(argc, argv);
     MemorySettingsStore store;
     NoRecoveryCopies recovery;
-    frmMain window(store, recovery);
+    QTemporaryDir folder;
+    QDir(folder.path()).mkpath(QStringLiteral("Help_Files/Preview"));
+    QFile::copy(QStringLiteral(TINTORA_SOURCE_DATA "/Help_Files/Preview/default.html"),
+                folder.filePath(QStringLiteral("Help_Files/Preview/default.html")));
+    frmMain window(
+        {.store = store, .recovery = recovery, .previewFolders = {ToText(folder.path()), ToText(folder.path())}});
     window.resize(1280, 800);
     window.show();
     StyleSheetPane* const panes[] = {window.OpenNewStyleSheet(bench::VariedSheet(30'000)),

@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
     const Application application(argc, argv);
     MemorySettingsStore store;
     NoRecoveryCopies recovery;
-    frmMain window(store, recovery);
+    frmMain window({.store = store, .recovery = recovery});
     window.LoadNewDoc();
     window.resize(1280, 800);
     window.show();

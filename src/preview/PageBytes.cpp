@@ -48,6 +48,10 @@ PageText DecodePage(std::string_view bytes) {
     return {std::move(decoded.text), isUtf8 ? PageEncoding::Utf8 : PageEncoding::Windows1252, {}};
 }
 
+bool IsPageInUtf16(std::string_view bytes) noexcept {
+    return bytes.starts_with(LittleEndianMark) || bytes.starts_with(BigEndianMark);
+}
+
 std::optional<std::string> EncodePage(const PageText& page) {
     switch (page.encoding) {
         case PageEncoding::Utf8: return EncodeText(page.text, Encoding::Utf8);

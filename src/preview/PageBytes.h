@@ -22,6 +22,10 @@ struct PageText {
 
 [[nodiscard]] PageText DecodePage(std::string_view bytes);
 
+/// Whether the bytes are those of a page in UTF-16. A browser takes the style sheets of such a page for UTF-16 too,
+/// unless they tell their encoding by a byte order mark.
+[[nodiscard]] bool IsPageInUtf16(std::string_view bytes) noexcept;
+
 /// Nothing if the encoding has no bytes for one of the characters.
 [[nodiscard]] std::optional<std::string> EncodePage(const PageText& page);
 

@@ -80,7 +80,6 @@ void PageTurns::LoadNewest() {
     for (const Text& file : held_)
         surroundings_.filesToDelete.Hold(file);
     patience_->Restart();
-    pane_->SetSilent(true);
     pane_->Navigate(FileURLFromPath(loading_));
 }
 

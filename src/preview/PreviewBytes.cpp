@@ -89,8 +89,9 @@ Text EscapedDeclarations(TextView text) {
 
 }  // namespace
 
-std::string SheetBytes(TextView text, Encoding encoding) {
-    if (std::optional<std::string> bytes = EncodeText(text, encoding))
+std::string SheetBytes(TextView text, Encoding encoding, bool isMarked) {
+    std::optional<std::string> bytes = isMarked ? std::nullopt : EncodeText(text, encoding);
+    if (bytes)
         return std::move(*bytes);
     const bool hasMark = text.starts_with(ByteOrderMark);
     return Utf8FromText(hasMark ? Text(text) : Text(ByteOrderMark).append(text));

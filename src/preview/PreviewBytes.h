@@ -11,8 +11,8 @@ namespace tintora {
 
 /// A style sheet in the encoding of its document. Where that has no bytes for one of the characters it is UTF-8 with a
 /// byte order mark, which counts for more than what the style sheet says of its encoding; a lone surrogate is U+FFFD
-/// then.
-[[nodiscard]] std::string SheetBytes(TextView text, Encoding encoding);
+/// then. A sheet that `isMarked` has the mark in any case.
+[[nodiscard]] std::string SheetBytes(TextView text, Encoding encoding, bool isMarked = false);
 
 /// A copy of a page, linked to the style sheet in `sheetPath` by its file URL. Each link of the page that leads to
 /// `documentPath` is replaced by that link, and all others stay. Where none leads there, or `documentPath` is "", it

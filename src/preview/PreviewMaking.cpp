@@ -1,10 +1,26 @@
 #include "preview/PreviewMaking.h"
 
 #include "linking/TextFiles.h"
+#include "preview/PageBytes.h"
 #include "preview/PreviewBytes.h"
 #include "text/Narrowing.h"
 
+#include <optional>
+
 namespace tintora {
+
+namespace {
+
+/// Nothing for a page that can't be read.
+std::optional<std::string> TryToReadPage(TextView path) {
+    try {
+        return ReadPageBytes(path);
+    } catch (const FileFailure&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
 
 PreviewMaking::PreviewMaking(SettingsStore& store, const PreviewFolders& folders, const ReadTime& now)
     : files_(folders, now),
@@ -35,8 +51,10 @@ Text PreviewMaking::MakeRulePreview(const PreviewedDocument& document) {
 }
 
 Text PreviewMaking::MakePair(const PreviewedDocument& document, WriteMessages* messages) {
-    const Text sheet = MakeSheet(document, messages);
-    Text page = sheet.empty() ? Text() : MakePreviewPage(sheet, document.GetFile());
+    const Text file = documents_.GetPreviewFile();
+    const std::optional<std::string> bytes = TryToReadPage(file);
+    const Text sheet = bytes ? MakeSheet(document, IsPageInUtf16(*bytes), messages) : Text();
+    Text page = sheet.empty() ? Text() : MakePreviewPage(file, *bytes, sheet, document.GetFile());
     if (page.empty()) {
         last_.DeleteLastPreviewCSSFile();
         last_.SetLastPreviewHTMLFile({});
@@ -44,8 +62,8 @@ Text PreviewMaking::MakePair(const PreviewedDocument& document, WriteMessages* m
     return page;
 }
 
-Text PreviewMaking::MakeSheet(const PreviewedDocument& document, WriteMessages* messages) {
-    const std::string bytes = SheetBytes(document.GetText(), document.FileEncoding());
+Text PreviewMaking::MakeSheet(const PreviewedDocument& document, bool isMarked, WriteMessages* messages) {
+    const std::string bytes = SheetBytes(document.GetText(), document.FileEncoding(), isMarked);
     try {
         return files_.WriteSheet(document.GetFile(), bytes,
                                  [this](TextView path) { last_.SetLastPreviewCSSFile(path); });
@@ -58,11 +76,10 @@ Text PreviewMaking::MakeSheet(const PreviewedDocument& document, WriteMessages* 
     }
 }
 
-Text PreviewMaking::MakePreviewPage(TextView sheetPath, TextView documentPath) {
-    const Text file = documents_.GetPreviewFile();
+Text PreviewMaking::MakePreviewPage(TextView file, std::string_view bytes, TextView sheetPath, TextView documentPath) {
     try {
-        const std::string bytes = LinkedPageBytes(ReadPageBytes(file), file, documentPath, sheetPath);
-        return files_.WritePageBeside(file, bytes, [this](TextView path) { last_.SetLastPreviewHTMLFile(path); });
+        const std::string linked = LinkedPageBytes(bytes, file, documentPath, sheetPath);
+        return files_.WritePageBeside(file, linked, [this](TextView path) { last_.SetLastPreviewHTMLFile(path); });
     } catch (const FileFailure&) {
         return {};
     } catch (const OverflowFailure&) {

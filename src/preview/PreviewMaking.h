@@ -45,8 +45,9 @@ class PreviewMaking {
 
   private:
     [[nodiscard]] Text MakePair(const PreviewedDocument& document, WriteMessages* messages);
-    [[nodiscard]] Text MakeSheet(const PreviewedDocument& document, WriteMessages* messages);
-    [[nodiscard]] Text MakePreviewPage(TextView sheetPath, TextView documentPath);
+    [[nodiscard]] Text MakeSheet(const PreviewedDocument& document, bool isMarked, WriteMessages* messages);
+    [[nodiscard]] Text MakePreviewPage(TextView file, std::string_view bytes, TextView sheetPath,
+                                       TextView documentPath);
 
     TemporaryFiles files_;
     FilesToDelete filesToDelete_;

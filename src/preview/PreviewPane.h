@@ -4,7 +4,8 @@
 
 namespace tintora {
 
-/// A pane with an embedded browser. It loads a page out of sight, and shows it when it is ready.
+/// A pane with an embedded browser. It loads a page out of sight, and shows it when it is ready. It is silent:
+/// dialogues of pages never show.
 class PreviewPane {
   public:
     PreviewPane() = default;
@@ -16,9 +17,6 @@ class PreviewPane {
 
     /// Gives up the page that is being loaded, if there is one; the page that is shown stays.
     virtual void Stop() = 0;
-
-    /// Whether the dialogues of pages are kept from the user.
-    virtual void SetSilent(bool isSilent) = 0;
 
     /// Begins to load the page of a file URL; returns at once, and leaves the focus where it is. Once the page is
     /// shown, and also if it never will be, the pane calls `PageTurns::PageLoaded` with the same URL, from the event

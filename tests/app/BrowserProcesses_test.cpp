@@ -3,12 +3,12 @@
 #include "preview/BrowserFixture.h"
 #include "preview/BrowserPreviews.h"
 #include "preview/qt/SystemProcesses.h"
+#include "shell/qt/UserMessages.h"
 #include "text/qt/QtText.h"
 #include "validation/ArgumentLimit.h"
 #include "validation/StyleSheetValidator.h"
 #include "validation/ValidatorAddress.h"
 #include "validation/qt/SystemWebAccess.h"
-#include "validation/qt/ValidationMessageBox.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -228,7 +228,7 @@ class ValidatorProcessesTest : public BrowserProcessesTest {
             box->button(QMessageBox::Ok)->click();
         });
         SystemWebAccess web(locations_, processes_, [this] { return reachability_; });
-        ValidationMessageBox messages(window_);
+        MessageBoxes messages(window_);
         StyleSheetValidator(web, messages).ValidateStyleSheet(FixedSheet(text));
         QApplication::processEvents();
         return told;

@@ -215,7 +215,7 @@ TEST_F(CommandsTest, PalettesAndToolbarsAreShownHiddenAndArranged) {
 TEST_F(CommandsTest, TheArrangementIsKeptFromRunToRun) {
     const QString layout = folder.filePath(QStringLiteral("Layouts/current"));
     const auto makeWindow = [&] {
-        window = std::make_unique<frmMain>(store, recovery, std::make_unique<test::RecordedMessages>(told), layout);
+        window = std::make_unique<frmMain>(Surroundings(layout));
         window->LoadStep(u"");
         window->show();
     };

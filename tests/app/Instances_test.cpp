@@ -131,7 +131,7 @@ TEST_F(InstancesTest, FiftyStartsAtOnceOpenFiftyDocuments) {
     InstanceLock lock(InstanceFolder());
     ASSERT_TRUE(lock.TryToTake());
     NoRecoveryCopies recovery;
-    frmMain window(store, recovery);
+    frmMain window({.store = store, .recovery = recovery});
     const MessageHook hook(InstanceFolder(), store, [&](const Text& path) { window.OpenOneStyleSheet(path); });
     std::vector<std::unique_ptr<QProcess>> starts;
     for (int number = 0; number < 50; ++number) {

@@ -18,6 +18,13 @@ struct Told {
     QStringList messages;
     QStringList questions;
     QStringList addresses;
+    /// The command lines of the programs that were started.
+    std::vector<Texts> commands;
+    /// The pages that were opened in the user's browser, and whether there is a way to the web.
+    Texts pages;
+    bool isConnected = true;
+    /// The answer to questions for files; none is a cancelled question.
+    QStringList files;
     FileDialogs::SaveAnswer saveAnswer = FileDialogs::SaveAnswer::No;
     /// Answers of the questions to come, before `saveAnswer` holds.
     std::deque<FileDialogs::SaveAnswer> saveAnswers;
@@ -34,6 +41,7 @@ class RecordedMessages final : public UserMessages {
     void Tell(const QString& text, const QString&) override { told_.messages.append(text); }
     void OpenAddress(const QString& address) override { told_.addresses.append(address); }
     void ShowWriteFailure(TextView message) override { told_.messages.append(ToQString(message)); }
+    void ShowExclamation(TextView message) override { told_.messages.append(ToQString(message)); }
     std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView) override {
         told_.questions.append(ToQString(title) + ": " + ToQString(proposedName));
         return told_.savePath;
@@ -76,12 +84,51 @@ class RecordedMessages final : public UserMessages {
     Told& told_;
 };
 
+class RecordedProcesses final : public ProcessStarter {
+  public:
+    explicit RecordedProcesses(Told& told) : told_(told) {}
+    bool Start(const Texts& command) override {
+        told_.commands.push_back(command);
+        return true;
+    }
+
+  private:
+    Told& told_;
+};
+
+class RecordedWeb final : public WebAccess {
+  public:
+    explicit RecordedWeb(Told& told) : told_(told) {}
+    bool IsConnected() const override { return told_.isConnected; }
+    void OpenURLInBrowser(TextView url) override { told_.pages.emplace_back(url); }
+
+  private:
+    Told& told_;
+};
+
 /// A fresh main window over a fresh store, and a folder of its own for files.
 class WindowTest : public testing::Test {
   protected:
     WindowTest() { MakeWindow(); }
 
-    void MakeWindow() { window = std::make_unique<frmMain>(store, recovery, std::make_unique<RecordedMessages>(told)); }
+    /// What the window works with. Its programs lie in a folder without a preview document, where a test doesn't make
+    /// one.
+    FrameSurroundings Surroundings(const QString& layoutPath = {}) {
+        return {.store = store,
+                .recovery = recovery,
+                .messages = std::make_unique<RecordedMessages>(told),
+                .layoutPath = layoutPath,
+                .previewFolders = {ToText(folder.filePath("program")), ToText(folder.filePath("tmp"))},
+                .askFiles =
+                    [this](const FilesWanted& wanted, QWidget*) {
+                        told.questions.append(wanted.title);
+                        return told.files;
+                    },
+                .processes = std::make_unique<RecordedProcesses>(told),
+                .web = std::make_unique<RecordedWeb>(told)};
+    }
+
+    void MakeWindow() { window = std::make_unique<frmMain>(Surroundings()); }
 
     /// Writes a file into the test's folder, and gives its path.
     Text MakeFile(const char* name, const QByteArray& bytes) {

@@ -81,6 +81,19 @@ constexpr auto SheetCases = std::to_array<SheetCase>({
      "a\xEF\xBF\xBD"},
 });
 
+TEST(PreviewBytes, ASheetIsMarkedOnDemand) {
+    EXPECT_EQ(SheetBytes(u"a{}", Encoding::Utf8, true),
+              "\xEF\xBB\xBF"
+              "a{}");
+    EXPECT_EQ(SheetBytes(u"\ufeff"
+                         u"a{}",
+                         Encoding::Utf8, true),
+              "\xEF\xBB\xBF"
+              "a{}")
+        << "once";
+    EXPECT_EQ(SheetBytes(u"\u00e9", Encoding::Windows1252, true), "\xEF\xBB\xBF\xC3\xA9");
+}
+
 TEST(PreviewBytes, OfASheetAreInTheEncodingOfTheDocument) {
     for (const SheetCase& row : SheetCases)
         EXPECT_EQ(SheetBytes(row.text, row.encoding), row.bytes) << Utf8FromText(row.text);

@@ -55,7 +55,6 @@ class RecordingPane final : public PreviewPane {
   public:
     [[nodiscard]] bool IsVisible() const override { return isVisible; }
     void Stop() override { calls.emplace_back("Stop"); }
-    void SetSilent(bool isSilent) override { calls.emplace_back(isSilent ? "Silent" : "Loud"); }
     void Navigate(TextView url) override {
         calls.emplace_back("Navigate");
         urls.emplace_back(url);
@@ -69,7 +68,7 @@ class RecordingPane final : public PreviewPane {
     Texts urls;
 };
 
-inline const Calls Turned = {"Stop", "Silent", "Navigate"};
+inline const Calls Turned = {"Stop", "Navigate"};
 
 /// A folder of a test in which nothing can be made or deleted, as long as this lives: not by root either, who goes
 /// without his rights.

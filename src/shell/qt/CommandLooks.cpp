@@ -71,6 +71,9 @@ const Looks& EditMenu() {
          "Outdents the selected lines"},
         {"miEFormatStyleSheet", "Format &Style Sheet", "format-text-code",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), "Lays out the white space of the whole style sheet anew"},
+        Separator,
+        {"miEValidate", "&Validate", "document-edit-verify", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V),
+         "Has the W3C's validator judge the style sheet, in a browser"},
     };
     return Entries;
 }
@@ -108,6 +111,29 @@ const Looks& RulesMenu() {
         {"miAllBasicText", "All &Basic Text", "", {}, "Inserts rules for the page, its paragraphs and its headings"},
         {"miAllTable", "All &Table", "", {}, "Inserts rules for the parts of tables"},
         {"miAllForm", "All &Form", "", {}, "Inserts rules for forms and their controls"},
+    };
+    return Entries;
+}
+
+const Looks& PreviewMenu() {
+    static const Looks Entries = {
+        {"miPPreviewNow", "&Preview Now", "view-refresh", QKeySequence(Qt::Key_F5),
+         "Shows the style sheet on the preview document"},
+        {"miPCurrentRule", "Preview Current &Rule", "", QKeySequence(Qt::SHIFT | Qt::Key_F5),
+         "Shows the rule at the caret on a paragraph"},
+        {"miPLivePreview", "&Live Preview", "", {}, "Previews each change a moment after it"},
+        Separator,
+        {"miPPreviewInIE", "Preview in Default Browser", "internet-web-browser", QKeySequence(Qt::Key_F12),
+         "Shows the style sheet in the system's own browser"},
+        {"miPPreviewInNS", "Preview in Chromium", "", {}, "Shows the style sheet in this browser"},
+        {"miPPreviewInOpera", "Preview in Opera", "", {}, "Shows the style sheet in this browser"},
+        {"miPPreviewinMoz", "Preview in Firefox", "", {}, "Shows the style sheet in this browser"},
+        Separator,
+        {"miPPreviewIn1", "Preview in Another Browser", "", QKeySequence(Qt::SHIFT | Qt::Key_F12),
+         "Shows the style sheet in this browser"},
+        Separator,
+        {"miPManageDocuments", "Manage Preview &Documents…", "", {}, "Adds and removes pages for previews"},
+        {"miPManageBrowsers", "Manage Preview &Browsers…", "", {}, "Says where the browsers are, and adds others"},
     };
     return Entries;
 }
@@ -153,9 +179,10 @@ const Looks& HelpMenu() {
 
 std::span<const MenuLook> MenuLooks() {
     static const std::vector<MenuLook> Menus = {
-        {"mnuFile", "&File", FileMenu()},       {"mnuEdit", "&Edit", EditMenu()},
-        {"mnuStyle", "St&yle", StyleMenu()},    {"mnuStatement", "&Statement", StatementMenu()},
-        {"mnuWindow", "&Window", WindowMenu()}, {"mnuHelp", "&Help", HelpMenu()},
+        {"mnuFile", "&File", FileMenu()},          {"mnuEdit", "&Edit", EditMenu()},
+        {"mnuStyle", "St&yle", StyleMenu()},       {"mnuStatement", "&Statement", StatementMenu()},
+        {"mnuPreview", "&Preview", PreviewMenu()}, {"mnuWindow", "&Window", WindowMenu()},
+        {"mnuHelp", "&Help", HelpMenu()},
     };
     return Menus;
 }

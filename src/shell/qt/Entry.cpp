@@ -16,6 +16,7 @@
 #include "shell/qt/dlgDefaultCSSEditor.h"
 #include "shell/qt/frmMain.h"
 #include "text/Encoding.h"
+#include "text/qt/QtText.h"
 
 #include <QDir>
 #include <QFile>
@@ -68,7 +69,10 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
     const std::vector<LeftCopy> left = recovery.ReadLeftCopies();
     const ApplicationFolder folder(ApplicationFolder::UserPath());
     folder.Fill(FindShippedData());
-    frmMain window(store, recovery, nullptr, folder.LayoutPath());
+    frmMain window({.store = store,
+                    .recovery = recovery,
+                    .layoutPath = folder.LayoutPath(),
+                    .previewFolders = {ToText(folder.Path()), ToText(QDir::tempPath())}});
     application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
                                    [&](const QString& what) { window.ReportFault(what); });
     const FirstPaint firstPaint(window);

@@ -24,9 +24,10 @@ StyleSheetPane::StyleSheetPane(const QString& caption, const PaneSurroundings& s
       statements_(surroundings.statements),
       notice_(new NoticeBar(this)),
       dialogs_(*this, IsBuilt),
+      previews_(surroundings.previews),
       view_(this),
       typeAheadPopup_(view_, [this](TextView choice) { window_.SetTypeAheadChoice(choice); }),
-      window_({view_, *this, *this, unbuilt_, unbuilt_, unbuilt_, unbuilt_, surroundings.messages,
+      window_({view_, *this, *this, unbuilt_, previews_, unbuilt_, unbuilt_, surroundings.messages,
                surroundings.messages, surroundings.recovery, dialogs_, clipboard_, surroundings.settings, clock_,
                typeAheadPopup_}) {
     auto* const layout = new QVBoxLayout(this);
@@ -36,6 +37,7 @@ StyleSheetPane::StyleSheetPane(const QString& caption, const PaneSurroundings& s
     layout->addWidget(&view_);
     setFocusProxy(&view_);
     SetUpNotice();
+    previews_.SetWindow(&window_);
     window_.SetCaption(ToText(caption));
 }
 
@@ -56,7 +58,7 @@ void StyleSheetPane::LookAfterFile() {
         notice_->hide();
 }
 
-StyleSheetPane::~StyleSheetPane() = default;
+StyleSheetPane::~StyleSheetPane() { previews_.SetWindow(nullptr); }
 
 QString StyleSheetPane::Caption() const { return ToQString(window_.Caption()); }
 

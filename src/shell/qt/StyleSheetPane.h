@@ -6,6 +6,7 @@
 #include "editor/qt/QtClock.h"
 #include "editor/qt/QtTypeAheadPopup.h"
 #include "editor/qt/ScintillaSourceView.h"
+#include "preview/DocumentPreviews.h"
 #include "selectors/FrontStyleSheet.h"
 #include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"
@@ -38,6 +39,7 @@ struct PaneSurroundings {
     UserMessages& messages;
     RecoveryCopies& recovery;
     SettingsStore& settings;
+    PreviewController& previews;
 };
 
 /// The pane of one open style sheet: its text in the source editor, and the document window behind it.
@@ -59,6 +61,7 @@ class StyleSheetPane : public QWidget, public FrontStyleSheet, private DocumentF
     [[nodiscard]] Text GetText() const { return window_.GetText(); }
     [[nodiscard]] ktStyleSheetWindow& Window() noexcept { return window_; }
     [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return window_.CSSEditor(); }
+    [[nodiscard]] const DocumentPreviews& Previews() const noexcept { return previews_; }
     [[nodiscard]] ScintillaSourceView& View() noexcept { return view_; }
 
     /// The encoding of the file and the line end of the text, for the status bar.
@@ -114,6 +117,7 @@ class StyleSheetPane : public QWidget, public FrontStyleSheet, private DocumentF
     QtClipboard clipboard_;
     EditorDialogBoxes dialogs_;
     UnbuiltPalettes unbuilt_;
+    DocumentPreviews previews_;
     ScintillaSourceView view_;
     QtTypeAheadPopup typeAheadPopup_;
     ktStyleSheetWindow window_;

@@ -4,12 +4,9 @@
 
 namespace tintora {
 
-/// In the place of the palettes and forms that the program doesn't have yet: palettes that are closed, panes that show
-/// nothing, and forms that are cancelled.
-class UnbuiltPalettes final : public PropertiesPalette,
-                              public PreviewPanes,
-                              public SupportWarnings,
-                              public StatementDialogs {
+/// In the place of the palettes and forms that the program doesn't have yet: palettes that are closed, and forms that
+/// are cancelled.
+class UnbuiltPalettes final : public PropertiesPalette, public SupportWarnings, public StatementDialogs {
   public:
     [[nodiscard]] bool IsOpen() const override { return false; }
     void Enable() override {}
@@ -19,8 +16,6 @@ class UnbuiltPalettes final : public PropertiesPalette,
     void EditProperty(TextView) override {}
     void SetLastProperty(int) override {}
     [[nodiscard]] bool IsChangingProperty() const override { return false; }
-    void PreviewNow() override {}
-    void PreviewCurrentRule() override {}
     void SetUpWarnings(int) override {}
     [[nodiscard]] Text AskStatementKind() override { return {}; }
     [[nodiscard]] Text EditSelector(TextView, TextView) override { return {}; }

@@ -56,6 +56,10 @@ void MessageBoxes::OpenAddress(const QString& address) {
         Tell(QStringLiteral("No browser could be started."), address);
 }
 
+void MessageBoxes::ShowExclamation(TextView message) {
+    QMessageBox::warning(&window_, QStringLiteral("Tintora"), ToQString(message));
+}
+
 void MessageBoxes::ShowWriteFailure(TextView message) {
     QMessageBox::critical(&window_, QStringLiteral("Tintora"), ToQString(message));
 }

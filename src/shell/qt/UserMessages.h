@@ -2,6 +2,7 @@
 
 #include "document/DocumentSurroundings.h"
 #include "document/RecoveryFolder.h"
+#include "validation/ValidationSurroundings.h"
 
 #include <QString>
 #include <functional>
@@ -12,7 +13,7 @@ class QWidget;
 namespace tintora {
 
 /// What the program says to the user in a box of its own, and what it asks.
-class UserMessages : public FileDialogs, public PageDialogs {
+class UserMessages : public FileDialogs, public PageDialogs, public ValidationMessages {
   public:
     /// Opens a page of the web in the user's browser.
     virtual void OpenAddress(const QString& address) = 0;
@@ -37,6 +38,7 @@ class MessageBoxes final : public UserMessages {
     void Tell(const QString& text, const QString& details) override;
     void OpenAddress(const QString& address) override;
     void ShowWriteFailure(TextView message) override;
+    void ShowExclamation(TextView message) override;
     [[nodiscard]] std::optional<Text> AskSavePath(TextView title, TextView proposedName, TextView folder) override;
     [[nodiscard]] SaveAnswer AskSaveChanges(TextView title, TextView question) override;
     [[nodiscard]] ChangedFileAnswer AskAboutChangedFile(TextView path) override;

@@ -1,5 +1,7 @@
 #include "shell/qt/frmMain.h"
 
+#include "preview/qt/SystemBrowsers.h"
+#include "preview/qt/SystemProcesses.h"
 #include "selectors/qt/ktSelectorPalette.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/CorePropertiesBar.h"
@@ -8,8 +10,10 @@
 #include "shell/qt/PlaceOnScreens.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
+#include "shell/qt/WindowPreviews.h"
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
+#include "validation/qt/SystemWebAccess.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -36,14 +40,20 @@ int Pixels(float twips) {
 
 }  // namespace
 
-frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages,
-                 QString layoutPath)
-    : store_(store),
-      recovery_(recovery),
-      settings_(store),
-      recent_(store),
-      messages_(messages ? std::move(messages) : std::make_unique<MessageBoxes>(*this)),
-      layoutPath_(std::move(layoutPath)),
+frmMain::frmMain(FrameSurroundings surroundings)
+    : store_(surroundings.store),
+      recovery_(surroundings.recovery),
+      settings_(store_),
+      recent_(store_),
+      messages_(surroundings.messages ? std::move(surroundings.messages) : std::make_unique<MessageBoxes>(*this)),
+      previewFolders_(std::move(surroundings.previewFolders)),
+      askFiles_(std::move(surroundings.askFiles)),
+      processes_(surroundings.processes ? std::move(surroundings.processes) : std::make_unique<SystemProcesses>()),
+      browserLocations_(store_, SystemPrograms()),
+      web_(surroundings.web ? std::move(surroundings.web)
+                            : std::make_unique<SystemWebAccess>(browserLocations_, *processes_)),
+      validator_(*web_, *messages_),
+      layoutPath_(std::move(surroundings.layoutPath)),
       workspace_(*this, {},
                  [this] {
                      if (StyleSheetPane* const pane = ActiveDocument())
@@ -62,6 +72,7 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
     SetUpStatusBar();
     coreProperties_ = new CorePropertiesBar(*this, this);
     SetUpMenus();
+    SetUpPreviewMenu();
     SetUpToolbars();
     SetUpPaneMarks();
     workspace_.ArrangeAsDesigned();
@@ -75,10 +86,12 @@ frmMain::frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr
 }
 
 frmMain::~frmMain() {
-    // The panes go with the window; none of them comes to the front on the way.
+    // The panes go before what they work with; none of them comes to the front on the way.
     documents_->disconnect(this);
     qApp->disconnect(this);
     statements_->SetFrontStyleSheet(nullptr);
+    delete documents_;
+    previews_.reset();
 }
 
 void frmMain::LoadStep(TextView file) {
@@ -96,6 +109,7 @@ void frmMain::LoadStep(TextView file) {
         if (!layoutPath_.isEmpty())
             OpenLayout(workspace_, layoutPath_);
     });
+    run([this] { previews_->Start(); });
     run([&] {
         if (!file.empty())
             OpenOneStyleSheet(file);

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "preview/BrowserLocations.h"
 #include "settings/Settings.h"
 #include "shell/CommandHandlers.h"
 #include "shell/CorePropertiesHost.h"
 #include "shell/RecentFiles.h"
 #include "shell/qt/DockWorkspace.h"
+#include "shell/qt/FrameSurroundings.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/options/OptionsHost.h"
 #include "text/Text.h"
+#include "validation/StyleSheetValidator.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -24,6 +27,7 @@ class QToolBar;
 namespace tintora {
 
 class CorePropertiesBar;
+class WindowPreviews;
 class ktSelectorPalette;
 struct ActionLook;
 struct MenuLook;
@@ -35,10 +39,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     Q_OBJECT
 
   public:
-    /// `store` and `recovery` must outlive the window. `messages` says and asks what the user must see; without one,
-    /// boxes do. The arrangement of panes and toolbars is kept in the file `layoutPath`; with "" it isn't.
-    frmMain(SettingsStore& store, RecoveryCopies& recovery, std::unique_ptr<UserMessages> messages = nullptr,
-            QString layoutPath = {});
+    explicit frmMain(FrameSurroundings surroundings);
     ~frmMain() override;
 
     /// The load step: brings the window to its stored place, and opens `file`, or a new style sheet if `file` is "" and
@@ -61,6 +62,15 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
     /// Opens a new style sheet with this text, which counts as unsaved unless it is "".
     StyleSheetPane* OpenNewStyleSheet(TextView text);
+
+    /// Shows the pane of previews, and previews the style sheet in front.
+    void PreviewNow();
+
+    /// Shows the pane of the current rule, and previews that.
+    void PreviewCurrentRule();
+
+    /// Stores whether each change is previewed, and shows it where it can be seen.
+    void SetLivePreview(bool isOn);
 
     /// Brings the window before all others of the screen.
     void BringToFront();
@@ -118,6 +128,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
     // Panes.
     void SetUpPanes();
+    void SetUpPreviewPanes();
     void SetUpPaneMarks();
     void ToggleFloatingWindow(TextView pane);
     void UpdateAfterPalettes();
@@ -131,9 +142,12 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     void AddEntry(QMenu& menu, const ActionLook& look);
     void AddSubmenu(QMenu& menu, const MenuLook& look);
     void FillOnlineMenu(QMenu& menu);
+    void SetUpPreviewMenu();
     void SetUpToolbars();
     void AddTools(QToolBar& bar, std::span<const TextView> keys);
     [[nodiscard]] QAction* FindAction(TextView key) const;
+    /// The action of a tool: its own, or that of an entry for the same command.
+    [[nodiscard]] QAction* FindTool(TextView key) const;
     /// Runs the command of a key; a key that is no command does nothing.
     void RunCommand(TextView key);
 
@@ -142,6 +156,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     void SetUpFileHandlers();
     void SetUpEditHandlers();
     void SetUpStatementHandlers();
+    void SetUpPreviewHandlers();
     void SetUpWindowHandlers();
     void SetUpCorePropertyHandlers();
     void SetUpHelpHandlers();
@@ -165,9 +180,16 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     Settings settings_;
     RecentFiles recent_;
     std::unique_ptr<UserMessages> messages_;
+    PreviewFolders previewFolders_;
+    AskFiles askFiles_;
+    std::unique_ptr<ProcessStarter> processes_;
+    BrowserLocations browserLocations_;
+    std::unique_ptr<WebAccess> web_;
+    StyleSheetValidator validator_;
     CommandHandlers handlers_;
     QString layoutPath_;
     DockWorkspace workspace_;
+    std::unique_ptr<WindowPreviews> previews_;
     QTabWidget* documents_;
     ktSelectorPalette* statements_;
     CorePropertiesBar* coreProperties_;

@@ -7,6 +7,7 @@
 #include "shell/qt/CommandLooks.h"
 #include "shell/qt/CorePropertiesBar.h"
 #include "shell/qt/RecentMenu.h"
+#include "shell/qt/WindowPreviews.h"
 #include "shell/qt/frmMain.h"
 #include "text/qt/QtText.h"
 
@@ -37,6 +38,17 @@ void TidySeparators(QMenu& menu) {
 
 QAction* frmMain::FindAction(TextView key) const {
     return findChild<QAction*>(ToQString(key), Qt::FindDirectChildrenOnly);
+}
+
+QAction* frmMain::FindTool(TextView key) const {
+    if (QAction* const action = FindAction(key))
+        return action;
+    // A tool may stand for an entry of a menu.
+    for (const TextView other : KeysSharing(key)) {
+        if (QAction* const action = FindAction(other))
+            return action;
+    }
+    return nullptr;
 }
 
 void frmMain::RunCommand(TextView key) { handlers_.Run(key); }
@@ -134,7 +146,7 @@ void frmMain::SetUpToolbars() {
 
 void frmMain::AddTools(QToolBar& bar, std::span<const TextView> keys) {
     for (const TextView key : keys) {
-        QAction* const action = key == ToolbarSeparator ? nullptr : FindAction(key);
+        QAction* const action = key == ToolbarSeparator ? nullptr : FindTool(key);
         if (action != nullptr)
             bar.addAction(action);
         else if (key == ToolbarSeparator && !bar.actions().isEmpty() && !bar.actions().constLast()->isSeparator())
@@ -158,6 +170,7 @@ void frmMain::UpdateMenus() {
 void frmMain::EnableDocumentCommands(bool enabled) {
     for (const TextView key : enabled ? MenusToEnable() : MenusToDisable())
         UpdateMenuItem(key, enabled);
+    previews_->EnablePreviews(enabled);
     for (const TextView key : {TextView(u"miWNextDocument"), TextView(u"miWPreviousDocument")})
         UpdateMenuItem(key, enabled);
 }

@@ -16,6 +16,7 @@ void frmMain::SetUpHandlers() {
     SetUpEditHandlers();
     SetUpStatementHandlers();
     SetUpCorePropertyHandlers();
+    SetUpPreviewHandlers();
     SetUpWindowHandlers();
     SetUpHelpHandlers();
 }

@@ -8,6 +8,7 @@
 #include "shell/qt/LayoutFile.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
+#include "shell/qt/WindowPreviews.h"
 #include "shell/qt/frmMain.h"
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
@@ -77,8 +78,9 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
 
 StyleSheetPane* frmMain::OpenNewStyleSheet(TextView text) {
     ++newDocumentCount_;
-    auto* const pane = new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_),
-                                          {*this, *statements_, *messages_, recovery_, store_});
+    auto* const pane =
+        new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_),
+                           {*this, *statements_, *messages_, recovery_, store_, previews_->Controller()});
     connect(pane, &StyleSheetPane::CaptionChanged, this, [this, pane] { UpdateCaption(pane); });
     connect(pane, &StyleSheetPane::StatementsRead, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
@@ -191,6 +193,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     }
     for (StyleSheetPane* const pane : panes)
         pane->Window().Unload();
+    previews_->Close();
     SaveLocationOnClose();
     if (!layoutPath_.isEmpty())
         SaveLayout(workspace_, layoutPath_);

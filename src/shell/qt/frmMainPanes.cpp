@@ -48,6 +48,7 @@ void frmMain::SetUpPanes() {
     workspace_.AddPane(u"dwSelectorsEditor", QStringLiteral("Statements"), statements_);
     connect(statements_, &ktSelectorPalette::ShowFloatingWindow, this,
             [this](const QString& pane) { ShowFloatingWindow(workspace_, ToText(pane)); });
+    SetUpPreviewPanes();
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) { FollowFocus(now); });
 }
 

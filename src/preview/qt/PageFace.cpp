@@ -1,0 +1,283 @@
+#include "preview/qt/PageFace.h"
+
+#include "preview/qt/PreviewPage.h"
+
+#include <signal.h>
+#include <QChildEvent>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QWebEngineHistory>
+#include <QWebEngineLoadingInfo>
+
+namespace tintora {
+
+namespace {
+
+constexpr int MostTries = 2;
+
+const QUrl& Nowhere() {
+    static const QUrl address(QStringLiteral("about:blank"));
+    return address;
+}
+
+/// Brings the page to its place and tells when a picture of it has been painted: the engine calls for the first frame
+/// once all sheets are there, and for the next when that one is out. A page that is still being read gets another
+/// while, since it would stand at the wrong place. One that went elsewhere while it was read has no body, and nothing
+/// to show.
+QString PictureScript(const QString& mark, int load, QPointF place, std::chrono::milliseconds patience) {
+    return QStringLiteral(
+               "(() => {"
+               "  const say = words => console.info('%1' + words + ' %2');"
+               "  let isPainting = false;"
+               "  const paint = () => {"
+               "    if (isPainting) return;"
+               "    if (document instanceof HTMLDocument && !document.body) return say('nothing');"
+               "    isPainting = true;"
+               "    scrollTo({left: %3, top: %4, behavior: 'instant'});"
+               "    requestAnimationFrame(() => requestAnimationFrame(() => say('painted')));"
+               "  };"
+               "  if (document.readyState != 'loading') return paint();"
+               "  addEventListener('DOMContentLoaded', paint);"
+               "  setTimeout(paint, %5);"
+               "})()")
+        .arg(mark)
+        .arg(load)
+        .arg(place.x())
+        .arg(place.y())
+        .arg(3 * patience.count());
+}
+
+}  // namespace
+
+PageFace::PageFace(QWebEngineProfile& profile, PagePatience patience, QWidget* parent)
+    : QWebEngineView(parent), patience_(patience), page_(new PreviewPage(profile, this)) {
+    setPage(page_);
+    setAcceptDrops(false);
+    loadPatience_.setSingleShot(true);
+    loadPatience_.setInterval(patience.load);
+    connect(&loadPatience_, &QTimer::timeout, this, [this] {
+        if (hasArrived_)
+            AwaitPicture();
+    });
+    connect(page_, &QWebEnginePage::loadingChanged, this, &PageFace::Follow);
+    connect(page_, &QWebEnginePage::urlChanged, this, &PageFace::NoteArrival);
+    connect(page_, &QWebEnginePage::renderProcessTerminated, this, &PageFace::NoteEnd);
+    connect(page_, &PreviewPage::Said, this, &PageFace::Hear);
+}
+
+/// A page that goes answers what it has been asked, and speaks of its end, while this is still here to hear it.
+PageFace::~PageFace() {
+    page_->disconnect(this);
+    ++question_;
+    setPage(nullptr);
+    delete page_;
+}
+
+void PageFace::Load(const QString& path, const PageFace& seen) {
+    path_ = path;
+    seen_ = &seen;
+    tries_ = 0;
+    setZoomFactor(seen.zoomFactor());
+    stage_ = Stage::Loading;
+    loadPatience_.start();
+    Head(QUrl::fromLocalFile(path));
+}
+
+void PageFace::Leave() {
+    loadPatience_.stop();
+    if (stage_ == Stage::Empty || stage_ == Stage::Dead)
+        return;
+    stage_ = Stage::Leaving;
+    Head(Nowhere());
+}
+
+void PageFace::Head(const QUrl& address) {
+    address_ = address;
+    ++load_;
+    hasArrived_ = isPictureAwaited_ = false;
+    isBound_ = true;
+    GoOn();
+}
+
+/// The engine mixes up two loads at once, so that an earlier one has to end first.
+void PageFace::GoOn() {
+    if (!isBound_)
+        return;
+    if (IsStuck()) {
+        Kill();
+    } else if (page_->isLoading()) {
+        page_->triggerAction(QWebEnginePage::Stop);
+    } else if (!isUnderway_) {
+        isBound_ = false;
+        isUnderway_ = true;
+        hasStarted_ = false;
+        page_->Go(address_);
+    }
+}
+
+void PageFace::Fail() {
+    Leave();
+    Q_EMIT LoadFailed();
+}
+
+void PageFace::Follow(const QWebEngineLoadingInfo& info) {
+    const bool isEnd = info.status() != QWebEngineLoadingInfo::LoadStartedStatus;
+    if (isUnderway_)
+        hasStarted_ = hasStarted_ || info.url() == page_->Address();
+    if (isEnd && hasStarted_)
+        isUnderway_ = false;
+    if (isBound_)
+        QMetaObject::invokeMethod(this, &PageFace::GoOn, Qt::QueuedConnection);
+    else if (isEnd && hasStarted_)
+        End(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
+}
+
+/// A page that wants to go elsewhere ends as one that was stopped, and has been read all the same.
+void PageFace::End(bool isWhole) {
+    if (stage_ == Stage::Leaving) {
+        stage_ = Stage::Empty;
+        page_->history()->clear();
+        ForgetQuestions();
+    } else if (stage_ == Stage::Loading) {
+        hasArrived_ = hasArrived_ || isWhole;
+        hasArrived_ ? AwaitPicture() : Fail();
+    }
+}
+
+void PageFace::NoteArrival(const QUrl& address) {
+    if (isBound_ || stage_ != Stage::Loading || address != address_)
+        return;
+    hasArrived_ = true;
+    ForgetQuestions();
+    if (!loadPatience_.isActive())
+        AwaitPicture();
+}
+
+void PageFace::AwaitPicture() {
+    if (isPictureAwaited_)
+        return;
+    isPictureAwaited_ = true;
+    page_->RunApart(PictureScript(page_->Mark(), load_, seen_->Place(), patience_.load));
+}
+
+void PageFace::Hear(const QString& words) {
+    if (stage_ != Stage::Loading)
+        return;
+    if (words == QStringLiteral("nothing %1").arg(load_)) {
+        Fail();
+    } else if (words == QStringLiteral("painted %1").arg(load_)) {
+        stage_ = Stage::Loaded;
+        loadPatience_.stop();
+        page_->history()->clear();
+        Q_EMIT LoadReady();
+    }
+}
+
+QPointF PageFace::Place() const { return page_->scrollPosition() / zoomFactor(); }
+
+void PageFace::Kill() {
+    const auto process = static_cast<pid_t>(page_->renderProcessPid());
+    if (process > 0)
+        kill(process, SIGKILL);
+}
+
+void PageFace::NoteEnd() {
+    const Stage stage = stage_;
+    isUnderway_ = false;
+    ForgetQuestions();
+    if (stage == Stage::Loading && !hasArrived_ && ++tries_ < MostTries) {
+        // The process had been doomed before this page came to it.
+        isBound_ = true;
+        QMetaObject::invokeMethod(this, &PageFace::GoOn, Qt::QueuedConnection);
+        return;
+    }
+    isBound_ = false;
+    stage_ = stage == Stage::Leaving ? Stage::Empty : Stage::Dead;
+    loadPatience_.stop();
+    if (stage == Stage::Loading)
+        Q_EMIT LoadFailed();
+    else if (stage == Stage::Loaded)
+        Q_EMIT Died();
+}
+
+std::chrono::milliseconds PageFace::AskingInterval() const { return patience_.answer / MissedAnswers; }
+
+void PageFace::AskForLife() {
+    if (stage_ == Stage::Empty || stage_ == Stage::Dead)
+        return;
+    GoOn();
+    if (isAnswerOut_) {
+        ++missedAnswers_;
+        NoteMissedAnswers();
+        return;
+    }
+    isAnswerOut_ = true;
+    const int question = ++question_;
+    page_->RunApart(QStringLiteral("0"), [this, question](const QVariant&) {
+        if (question_ == question)
+            ForgetQuestions();
+    });
+}
+
+void PageFace::NoteMissedAnswers() {
+    if (missedAnswers_ != MissedAnswers)
+        return;
+    // What is stuck is an earlier page, which the user sees no more.
+    if (stage_ == Stage::Leaving || (stage_ == Stage::Loading && !hasArrived_))
+        Kill();
+    else
+        Q_EMIT LifeChanged();
+}
+
+void PageFace::ForgetQuestions() {
+    const bool wasStuck = IsStuck();
+    ++question_;
+    isAnswerOut_ = false;
+    missedAnswers_ = 0;
+    if (wasStuck)
+        Q_EMIT LifeChanged();
+}
+
+void PageFace::SetReachable(bool isReachable) {
+    isReachable_ = isReachable;
+    const Qt::FocusPolicy policy = isReachable ? Qt::StrongFocus : Qt::NoFocus;
+    for (QWidget* const widget : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        widget->setFocusPolicy(policy);
+}
+
+void PageFace::contextMenuEvent(QContextMenuEvent* event) {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* const copy =
+        menu->addAction(QStringLiteral("&Copy"), page_, [this] { page_->triggerAction(QWebEnginePage::Copy); });
+    copy->setEnabled(page_->hasSelection());
+    menu->addAction(QStringLiteral("Select &All"), page_, [this] { page_->triggerAction(QWebEnginePage::SelectAll); });
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("&Reload"), this, &PageFace::ReloadWanted);
+    menu->popup(event->globalPos());
+    event->accept();
+}
+
+/// The widget that has the mouse and the keys is a child that the engine makes anew from time to time.
+bool PageFace::event(QEvent* event) {
+    if (event->type() == QEvent::ChildPolished) {
+        if (auto* const widget = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child())) {
+            widget->setAcceptDrops(false);
+            widget->installEventFilter(this);
+            SetReachable(isReachable_);
+        }
+    }
+    return QWebEngineView::event(event);
+}
+
+bool PageFace::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonRelease:
+        case QEvent::KeyPress:
+        case QEvent::TouchEnd: page_->NoteUserAction(); break;
+        default: break;
+    }
+    return QWebEngineView::eventFilter(watched, event);
+}
+
+}  // namespace tintora
