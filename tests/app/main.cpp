@@ -4,8 +4,8 @@
 
 // All window tests share the one application object that a process can have.
 #ifdef __SANITIZE_ADDRESS__
-/// The toolkit and the system's libraries keep what they allocate once until the process ends. The engine of the preview
-/// deletes some objects of its own as another type than they are.
+/// The toolkit and the system's libraries keep what they allocate once until the process ends. The engine of the
+/// preview deletes some objects of its own as another type than they are.
 extern "C" const char* __asan_default_options() { return "detect_leaks=0:new_delete_type_mismatch=0"; }
 #endif
 
