@@ -36,8 +36,6 @@ const Page ShownPages[] = {
      "replacing"},
     {"submitting.html", "<p>submitting<form action=x.html></form><script>document.forms[0].submit()</script>",
      "submitting"},
-    {"history.html", "<p>history<script>history.pushState(0, '', '#a'); history.back(); history.go(-9)</script>",
-     "history"},
     {"stopping.html", "<p>stopping<script>stop(); close()</script>", "stopping"},
     {"leaving.html", "<p>leaving<script>onbeforeunload = () => 'stay'; onunload = () => alert(1)</script>", "leaving"},
     {"framed.html", "<p>framed<iframe src=framed.html></iframe><script>top.location = 'x.html'</script>", "framed"},
