@@ -36,6 +36,9 @@ class ValueControl : public QWidget {
     /// for the property, and an unknown property leads to the first.
     virtual void EditProperty(int property) = 0;
 
+    /// What the control is called in front of it: its parts tell it to readers of the screen.
+    virtual void SetLabel(const QString& label) { setAccessibleName(label); }
+
     /// Whether anything can be done here. A compound control, when it is enabled, enables those of its parts that its
     /// value allows.
     void Enable() { SetUsable(true); }
