@@ -64,7 +64,9 @@ class ContentFields {
     // What is shown.
 
     [[nodiscard]] const KeywordChoice& Type() const noexcept { return type_; }
+    [[nodiscard]] KeywordChoice& Type() noexcept { return type_; }
     [[nodiscard]] const KeywordChoice& Keyword() const noexcept { return keyword_; }
+    [[nodiscard]] KeywordChoice& Keyword() noexcept { return keyword_; }
     [[nodiscard]] const Texts& Entries() const noexcept { return entries_; }
     [[nodiscard]] std::size_t SelectedEntry() const noexcept { return selected_; }
     [[nodiscard]] Tab CurrentTab() const noexcept { return tab_; }

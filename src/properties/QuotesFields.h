@@ -49,6 +49,7 @@ class QuotesFields {
     // What is shown.
 
     [[nodiscard]] const KeywordChoice& Type() const noexcept { return type_; }
+    [[nodiscard]] KeywordChoice& Type() noexcept { return type_; }
     [[nodiscard]] const Texts& Entries() const noexcept { return entries_; }
     [[nodiscard]] std::size_t SelectedEntry() const noexcept { return selected_; }
     [[nodiscard]] const Text& Opening() const noexcept { return opening_; }

@@ -3,6 +3,7 @@
 #include "properties/ControlRows.h"
 #include "properties/PaletteRecorders.h"
 #include "properties/qt/ChoiceBox.h"
+#include "properties/qt/ScreenColor.h"
 #include "properties/qt/ValueControls.h"
 #include "settings/MemorySettingsStore.h"
 #include "text/Encoding.h"
@@ -66,6 +67,21 @@ class UsedDocument final : public EditedDocument {
     Texts colors;
     Texts fonts;
     Texts urls;
+};
+
+/// A screen of one colour without end, but for the part left of it.
+class PaintedScreen final : public ScreenColor {
+  public:
+    [[nodiscard]] Way PresentWay() const override { return way; }
+    [[nodiscard]] QString WhyNot() const override { return QStringLiteral("It is dark."); }
+    [[nodiscard]] std::optional<QColor> ColorAt(const QPoint& place) override {
+        return place.x() < -5000 ? std::nullopt : std::optional(color);
+    }
+    void Ask(QObject*, const Answer& toAnswer) override { answer = toAnswer; }
+
+    Way way = Way::Directly;
+    QColor color{1, 2, 255};
+    Answer answer;
 };
 
 /// Value controls in a window of their own, with a field beside them, and what they tell.
@@ -177,6 +193,7 @@ class ValueControlTest : public testing::Test {
     PaletteFlags flags;
     HeldClipboard clipboard;
     RecordingMenus menus;
+    PaintedScreen screen;
     std::function<void()> onReport;
 
     /// The questions that were asked, and the answers to the next.
@@ -202,7 +219,8 @@ class ValueControlTest : public testing::Test {
             if (whileAsked)
                 whileAsked();
             return file;
-        }};
+        },
+        &screen};
     QWidget window;
     QVBoxLayout column{&window};
     QLineEdit other;

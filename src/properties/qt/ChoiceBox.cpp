@@ -61,7 +61,8 @@ void ChoiceBox::ShowText(const ChoiceList& list, TextView text) {
     const Text before = ShownText();
     const int caret = isEditable() ? lineEdit()->cursorPosition() : 0;
     model_->Offer(list.Entries());
-    const std::size_t place = list.ChosenText() == text ? list.Chosen() : list.Find(text);
+    const bool isChosen = list.Chosen() != ChoiceList::None && list.ChosenText() == text;
+    const std::size_t place = isChosen ? list.Chosen() : list.Find(text);
     ShowIndexAndText(place == ChoiceList::None ? -1 : static_cast<int>(place), ToQString(text));
     if (isEditable() && ShownText() == before)
         lineEdit()->setCursorPosition(caret);

@@ -3,7 +3,8 @@
 #include "language/Vocabulary.h"
 #include "text/qt/QtText.h"
 
-#include <QWidget>
+#include <QLineEdit>
+#include <QPushButton>
 #include <algorithm>
 
 namespace tintora {
@@ -13,15 +14,36 @@ void FocusIfUsable(QWidget& part) {
         part.setFocus(Qt::OtherFocusReason);
 }
 
+void ShowFieldText(QLineEdit& field, TextView text) {
+    const QString shown = ToQString(text);
+    if (shown == field.text())
+        return;
+    field.setText(shown);
+    // The beginning of a long text says more than its end.
+    field.home(false);
+}
+
+QPushButton* MakeNarrowButton(const QString& name, QWidget* parent) {
+    auto* const button = new QPushButton(name, parent);
+    button->setObjectName(name);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    constexpr int Margins = 16;
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(name) + Margins);
+    return button;
+}
+
 QString PropertyToolTip(int property) {
     const TextView name = PropertyNameFromNumber(property);
-    if (PropertyNumberFromName(name) == property)
+    // Of the names that no number has, one is misspelled.
+    const int unknown = PropertyNumberFromName({});
+    if (PropertyNumberFromName(name) != unknown)
         return ToQString(name);
-    // One number has a name that is misspelled.
     const Texts names = NamesOfProperties();
     const auto spelled =
         std::ranges::find_if(names, [=](const Text& other) { return PropertyNumberFromName(other) == property; });
-    return spelled == names.end() ? QString() : ToQString(*spelled);
+    if (spelled != names.end())
+        return ToQString(*spelled);
+    return name == PropertyNameFromNumber(unknown) ? QString() : ToQString(name);
 }
 
 }  // namespace tintora

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "text/Text.h"
+
 #include <QString>
 
+class QLineEdit;
+class QPushButton;
 class QWidget;
 
 /// How the parts of value controls lie and get the focus.
@@ -12,7 +16,13 @@ inline constexpr int ControlGap = 6;
 /// Gives the keyboard focus to a part, if it is enabled and visible.
 void FocusIfUsable(QWidget& part);
 
-/// The name of a property, as it is spelled in a style sheet; "" for a number that no name has.
+/// Shows a text in a field; one that is there already keeps its caret.
+void ShowFieldText(QLineEdit& field, TextView text);
+
+/// A button whose name is its caption, and which may become as narrow as that.
+[[nodiscard]] QPushButton* MakeNarrowButton(const QString& name, QWidget* parent);
+
+/// The name of a property, as it is spelled in a style sheet; "" for an unknown number.
 [[nodiscard]] QString PropertyToolTip(int property);
 
 }  // namespace tintora

@@ -13,6 +13,8 @@ class QWidget;
 
 namespace tintora {
 
+class ScreenColor;
+
 /// The commands of the main window, as a control of the palette sees them.
 class PaletteMenus {
   public:
@@ -38,6 +40,9 @@ struct ControlSurroundings {
     PaletteMenus& menus;
     AskColor askColor;
     AskFile askFile;
+
+    /// Where the eyedroppers take their colours from; `nullptr` for the desktop's screens.
+    ScreenColor* screenColor = nullptr;
 };
 
 }  // namespace tintora

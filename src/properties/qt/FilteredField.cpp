@@ -1,7 +1,7 @@
 #include "properties/qt/FilteredField.h"
 
 #include "properties/qt/BadValueMark.h"
-#include "text/qt/QtText.h"
+#include "properties/qt/ControlLayout.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -49,13 +49,7 @@ FilteredField::FilteredField(const QString& name, Judge judge, const QString& sa
 
 bool FilteredField::TellsClipboard() const noexcept { return judge_(PasteCode) == FieldKey::Pastes; }
 
-void FilteredField::ShowText(TextView text) {
-    const QString shown = ToQString(text);
-    if (shown == this->text())
-        return;
-    setText(shown);
-    home(false);
-}
+void FilteredField::ShowText(TextView text) { ShowFieldText(*this, text); }
 
 void FilteredField::MarkBad(bool isBad) {
     if (isBad_ == isBad)

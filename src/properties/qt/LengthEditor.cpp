@@ -30,9 +30,9 @@ LengthEditor::LengthEditor(int number, std::shared_ptr<LengthFields> fields, boo
       sign_(showSign ? new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Sign"), QStringLiteral("+"),
                                      QStringLiteral("+"), this)
                      : nullptr),
-      value_(new FilteredField(QStringLiteral("Value"), LengthFieldKey, QStringLiteral("0000.00"),
-                               QStringLiteral("000"), this)),
-      unit_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Unit"), QStringLiteral("text-bottom"),
+      value_(new FilteredField(QStringLiteral("Value"), LengthFieldKey, QStringLiteral("0000"), QStringLiteral("000"),
+                               this)),
+      unit_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Unit"), QStringLiteral("medium"),
                           QStringLiteral("mm"), this)) {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
