@@ -9,7 +9,6 @@ namespace {
 
 constexpr int FontWeight = 1002;
 constexpr int FontFamily = 1011;
-constexpr int PageBreakBefore = 1077;
 
 struct Act {
     const char* name;
@@ -285,16 +284,6 @@ TEST_F(KeywordEditorTest, NothingHappensInADisabledControl) {
     control.Enable();
     control.EditProperty(FontWeight);
     EXPECT_EQ(Take(), "focus 1002");
-}
-
-TEST_F(KeywordEditorTest, ASpinThroughTheListReportsEachStep) {
-    ValueControl& control = Make(PageBreakBefore);
-    ChoiceBox& list = List(control, "KeywordValue");
-    list.setFocus();
-    Take();
-    for (int step = 0; step < 100; ++step)
-        QTest::keyClick(&list, step % 2 == 0 ? Qt::Key_Down : Qt::Key_Up);
-    EXPECT_EQ(std::exchange(calls, {}).size(), 100U);
 }
 
 TEST_F(KeywordEditorTest, EscapeIsForThePalette) {

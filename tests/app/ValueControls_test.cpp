@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 #include <QElapsedTimer>
+#include <algorithm>
+#include <limits>
 
 // What holds for the controls of all rows.
 
@@ -88,31 +90,49 @@ TEST_F(ValueControlsTest, TheTabKeyGoesFromTheTopToTheBottom) {
     }
 }
 
-// The limits are those of an optimised build; with sanitizers it may take much longer, and must not take for ever.
-TEST_F(ValueControlsTest, ManyControlsAreFilledSoon) {
-    std::vector<ValueControl*> controls;
+// The best of several times counts: others use the machine too.
+TEST_F(ValueControlsTest, ManyControlsAreMadeAndFilledSoon) {
+    constexpr int PageLayoutEditor = 5;
+    qint64 making = std::numeric_limits<qint64>::max();
+    qint64 filling = making;
     QElapsedTimer timer;
-    timer.start();
-    for (const ControlRow& row : RowsOfEditor(5)) {
-        ValueControl* const control = MakeValueControl(row, surroundings, &window);
-        column.addWidget(control);
-        controls.push_back(control);
-    }
-    window.show();
-    QApplication::processEvents();
-    RecordProperty("made_us", static_cast<int>(timer.nsecsElapsed() / 1000));
-    EXPECT_LT(timer.elapsed(), 40 * 10);
-    timer.restart();
-    constexpr int Rounds = 20;
-    for (int round = 0; round < Rounds; ++round) {
-        for (ValueControl* const control : controls) {
-            control->Clear(&document);
-            control->SetValue(round % 2 == 0 ? u"12px" : u"auto");
+    for (int round = 0; round < 3; ++round) {
+        std::vector<ValueControl*> controls;
+        timer.start();
+        for (const ControlRow& row : RowsOfEditor(PageLayoutEditor)) {
+            controls.push_back(MakeValueControl(row, surroundings, &window));
+            column.addWidget(controls.back());
+            controls.back()->show();
         }
         QApplication::processEvents();
+        window.grab();
+        making = std::min(making, timer.restart());
+        for (const TextView value : {u"12px", u"auto", u"heavy"}) {
+            timer.start();
+            for (ValueControl* const control : controls) {
+                control->Clear(&document);
+                control->SetValue(value);
+            }
+            QApplication::processEvents();
+            filling = std::min(filling, timer.elapsed());
+        }
+        qDeleteAll(controls);
     }
-    RecordProperty("filled_us", static_cast<int>(timer.nsecsElapsed() / 1000 / Rounds));
-    EXPECT_LT(timer.elapsed(), 8 * 10 * Rounds);
+    EXPECT_LT(making, 40);
+    EXPECT_LT(filling, 8);
+}
+
+TEST_F(ValueControlsTest, ASpinThroughAListReportsEachStepSoon) {
+    ValueControl& control = Make(1002);
+    ChoiceBox& list = List(control, "KeywordValue");
+    list.setFocus();
+    Take();
+    QElapsedTimer timer;
+    timer.start();
+    for (int step = 0; step < 200; ++step)
+        QTest::keyClick(&list, step % 2 == 0 ? Qt::Key_Down : Qt::Key_Up);
+    EXPECT_LT(timer.elapsed(), 400);
+    EXPECT_EQ(std::exchange(calls, {}).size(), 200U);
 }
 
 }  // namespace

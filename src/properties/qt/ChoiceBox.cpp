@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <algorithm>
 #include <utility>
 
@@ -133,22 +134,32 @@ void ChoiceBox::changeEvent(QEvent* event) {
         QMetaObject::invokeMethod(this, &ChoiceBox::ShowMark, Qt::QueuedConnection);
 }
 
-void ChoiceBox::initStyleOption(QStyleOptionComboBox* option) const {
-    QComboBox::initStyleOption(option);
-    if (isBad_)
-        option->palette = WithBadText(option->palette);
-}
-
 void ChoiceBox::paintEvent(QPaintEvent* event) {
-    QComboBox::paintEvent(event);
+    if (isEditable())
+        QComboBox::paintEvent(event);
+    else
+        PaintFixed();
     if (isBad_ && NeedsBadFrame(palette().color(isEditable() ? QPalette::Base : QPalette::Button)))
         DrawBadFrame(*this);
+}
+
+// The toolkit would cut a text off, and colour the arrow too.
+void ChoiceBox::PaintFixed() {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    if (isBad_)
+        option.palette = WithBadText(option.palette);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 QSize ChoiceBox::SizeFor(const QString& sample) const {
     ensurePolished();
     QStyleOptionComboBox option;
-    QComboBox::initStyleOption(&option);
+    initStyleOption(&option);
     // The field keeps two pixels at each side, and the caret takes one.
     constexpr int FieldMargins = 5;
     const QSize content(fontMetrics().horizontalAdvance(sample) + FieldMargins, std::max(fontMetrics().height(), 14));

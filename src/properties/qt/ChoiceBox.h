@@ -64,7 +64,6 @@ class ChoiceBox : public QComboBox {
     void FocusHasGone();
 
   protected:
-    void initStyleOption(QStyleOptionComboBox* option) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -83,6 +82,7 @@ class ChoiceBox : public QComboBox {
     void ShowIndexAndText(int index, const QString& text);
     void ShowWaiting();
     void ShowMark();
+    void PaintFixed();
 
     QString sample_;
     QString least_;

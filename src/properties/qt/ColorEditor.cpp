@@ -50,7 +50,7 @@ ColorEditor::ColorEditor(int number, std::shared_ptr<ColorFields> fields, const 
                          QWidget* parent)
     : ValueControl(number, surroundings, parent),
       fields_(std::move(fields)),
-      mode_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("ColorMode"), QStringLiteral("UI Keywords"),
+      mode_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("ColorMode"), QStringLiteral("Keywords"),
                           QStringLiteral("rgb"), this)),
       selector_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("ColorSelector"), QStringLiteral("black"),
                               QStringLiteral("black"), this)),
@@ -62,14 +62,13 @@ ColorEditor::ColorEditor(int number, std::shared_ptr<ColorFields> fields, const 
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(ControlGap);
-    mode_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     preview_->setToolTip(QStringLiteral("Click to pick a color using a color chooser"));
-    layout->addWidget(mode_);
+    layout->addWidget(mode_, 2);
     for (QWidget* const part :
          {static_cast<QWidget*>(selector_), static_cast<QWidget*>(rgb_), static_cast<QWidget*>(hex_)})
         parts_->addWidget(part);
     parts_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    layout->addWidget(parts_, 1);
+    layout->addWidget(parts_, 3);
     layout->addWidget(preview_);
     layout->addWidget(picker_);
     ConnectLists();

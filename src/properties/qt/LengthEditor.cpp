@@ -30,9 +30,9 @@ LengthEditor::LengthEditor(int number, std::shared_ptr<LengthFields> fields, boo
       sign_(showSign ? new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Sign"), QStringLiteral("+"),
                                      QStringLiteral("+"), this)
                      : nullptr),
-      value_(new FilteredField(QStringLiteral("Value"), LengthFieldKey, QStringLiteral("0000"), QStringLiteral("000"),
-                               this)),
-      unit_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Unit"), QStringLiteral("medium"),
+      value_(new FilteredField(QStringLiteral("Value"), LengthFieldKey, QStringLiteral("000.00"),
+                               QStringLiteral("0000"), this)),
+      unit_(new ChoiceBox(ChoiceBox::Kind::Fixed, QStringLiteral("Unit"), QStringLiteral("text-bottom"),
                           QStringLiteral("mm"), this)) {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -42,7 +42,9 @@ LengthEditor::LengthEditor(int number, std::shared_ptr<LengthFields> fields, boo
         layout->addWidget(sign_);
     }
     layout->addWidget(value_, 1);
-    layout->addWidget(unit_, 1);
+    // As wide in each row, so that the units stand below one another.
+    unit_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    layout->addWidget(unit_);
     ConnectParts();
     ShowState();
 }
