@@ -255,6 +255,8 @@ TEST_F(KeywordEditorTest, CopyingTakesTheValue) {
     control.Cut();
     EXPECT_EQ(clipboard.text, u"bold");
     EXPECT_EQ(control.GetValue(), u"");
+    control.Copy();
+    EXPECT_EQ(clipboard.text, u"bold") << "there is nothing to copy";
     Take();
     clipboard.text.clear();
     control.Paste();

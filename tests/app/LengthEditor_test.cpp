@@ -217,6 +217,21 @@ TEST_F(LengthEditorTest, TheKeysOfTheClipboardWorkOnTheNumber) {
     EXPECT_EQ(clipboard.text, u"kept") << "nothing was selected";
 }
 
+TEST_F(LengthEditorTest, TheKeysOfTheClipboardReachTheNumberFromTheLists) {
+    ValueControl& control = Make(MarginTop);
+    control.SetValue(u"12px");
+    for (ChoiceBox* const list : {&Sign(control), &Unit(control)}) {
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(std::exchange(clipboard.text, Text()), u"12");
+    }
+    clipboard.text = u"7em";
+    Take();
+    QTest::keyClick(&Unit(control), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Take(), "1020 [7em]");
+}
+
 TEST_F(LengthEditorTest, PastesAValueOrANumberAndNothingElse) {
     ValueControl& control = Make(MarginTop);
     for (const PasteCase& row : Pastes) {

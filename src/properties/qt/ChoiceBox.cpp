@@ -2,6 +2,7 @@
 
 #include "properties/qt/BadValueMark.h"
 #include "properties/qt/ChoiceModel.h"
+#include "properties/qt/FilteredField.h"
 #include "text/qt/QtText.h"
 
 #include <QAbstractItemView>
@@ -167,11 +168,13 @@ QSize ChoiceBox::SizeFor(const QString& sample) const {
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+    // A fixed list would look for an entry that begins with the key.
+    const bool isForClipboard = !isEditable() && FilteredField::ClipboardCode(*event) != 0;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && isEditable()) {
         event->accept();
         Q_EMIT Entered();
-    } else if (isEnter || event->key() == Qt::Key_Escape) {
+    } else if (isEnter || event->key() == Qt::Key_Escape || isForClipboard) {
         event->ignore();
     } else {
         QComboBox::keyPressEvent(event);

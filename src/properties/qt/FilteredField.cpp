@@ -59,11 +59,17 @@ void FilteredField::MarkBad(bool isBad) {
     setPalette(isBad ? WithBadText(QPalette()) : QPalette());
 }
 
-FieldKey FilteredField::JudgeKey(const QKeyEvent& event) const {
+char16_t FilteredField::ClipboardCode(QKeyEvent& event) {
     for (const CodeOfKey& row : CodesOfKeys) {
         if (event.matches(row.key))
-            return judge_(row.code);
+            return row.code;
     }
+    return 0;
+}
+
+FieldKey FilteredField::JudgeKey(QKeyEvent& event) const {
+    if (const char16_t code = ClipboardCode(event); code != 0)
+        return judge_(code);
     const bool isShortcut = event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::MetaModifier);
     for (const QChar unit : event.text()) {
         const FieldKey key = judge_(unit.unicode());

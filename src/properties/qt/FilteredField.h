@@ -21,6 +21,10 @@ class FilteredField final : public QLineEdit {
     /// The field is as wide as it takes to show `sample`, and can become as narrow as it takes to show `least`.
     FilteredField(const QString& name, Judge judge, const QString& sample, const QString& least, QWidget* parent);
 
+    /// The code of the clipboard that a key stands for: that of "select all", of copying, pasting or cutting; 0 for any
+    /// other key.
+    [[nodiscard]] static char16_t ClipboardCode(QKeyEvent& event);
+
     /// A text that is there already keeps its caret.
     void ShowText(TextView text);
 
@@ -46,7 +50,7 @@ class FilteredField final : public QLineEdit {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    [[nodiscard]] FieldKey JudgeKey(const QKeyEvent& event) const;
+    [[nodiscard]] FieldKey JudgeKey(QKeyEvent& event) const;
     [[nodiscard]] bool TellsClipboard() const noexcept;
     [[nodiscard]] QSize SizeFor(const QString& sample) const;
 

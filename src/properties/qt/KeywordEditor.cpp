@@ -65,7 +65,10 @@ void KeywordEditor::Cut() {
     ClearSelection();
 }
 
-void KeywordEditor::Copy() { Surroundings().clipboard.SetText(GetValue()); }
+void KeywordEditor::Copy() {
+    if (const Text value = GetValue(); !value.empty())
+        Surroundings().clipboard.SetText(value);
+}
 
 void KeywordEditor::ClearSelection() {
     Clear(Surroundings().documents.GetActiveDocument());

@@ -8,6 +8,7 @@
 #include "text/qt/QtText.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 namespace tintora {
 
@@ -135,6 +136,13 @@ void LengthEditor::UpdateMenu() {
 }
 
 void LengthEditor::EditProperty(int /*property*/) { FocusIfUsable(*value_); }
+
+void LengthEditor::keyPressEvent(QKeyEvent* event) {
+    if (const char16_t code = FilteredField::ClipboardCode(*event); code != 0)
+        HandleKey(LengthFieldKey(code));
+    else
+        ValueControl::keyPressEvent(event);
+}
 
 void LengthEditor::HandleKey(FieldKey key) {
     switch (key) {

@@ -52,6 +52,10 @@ class LengthEditor final : public ValueControl {
     /// The commands of the main window, as far as they depend on `Value`; nothing unless the palettes are in front.
     void UpdateMenu();
 
+  protected:
+    /// The keys of the clipboard are for `Value` also where a list has the focus.
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void ConnectParts();
     void HandleKey(FieldKey key);

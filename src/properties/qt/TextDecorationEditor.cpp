@@ -93,7 +93,10 @@ void TextDecorationEditor::Cut() {
     ClearSelection();
 }
 
-void TextDecorationEditor::Copy() { Surroundings().clipboard.SetText(GetValue()); }
+void TextDecorationEditor::Copy() {
+    if (const Text value = GetValue(); !value.empty())
+        Surroundings().clipboard.SetText(value);
+}
 
 void TextDecorationEditor::ClearSelection() {
     Clear(nullptr);
