@@ -26,6 +26,9 @@ class EditedDocument : public FrontDocument {
     /// Stops the preview that waits for its time.
     virtual void DisableNextPreview() = 0;
 
+    /// The statement at the caret, 1-based; 0 for none.
+    [[nodiscard]] virtual int GetCurrentStatementNumber() const = 0;
+
     [[nodiscard]] virtual Text GetCurrentSelector() const = 0;
     [[nodiscard]] virtual int GetCurrentSelectorType() const = 0;
 

@@ -53,6 +53,7 @@ class UsedDocument final : public EditedDocument {
     void PreviewNow() override {}
     void PreviewCurrentRule() override {}
     void DisableNextPreview() override {}
+    [[nodiscard]] int GetCurrentStatementNumber() const override { return 1; }
     [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
     [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
     [[nodiscard]] Text GetFile() const override { return file; }

@@ -34,6 +34,7 @@ class RecordingEditedDocument final : public EditedDocument {
     void PreviewNow() override { calls_.emplace_back("PreviewNow"); }
     void PreviewCurrentRule() override { calls_.emplace_back("PreviewCurrentRule"); }
     void DisableNextPreview() override { calls_.emplace_back("DisableNextPreview"); }
+    [[nodiscard]] int GetCurrentStatementNumber() const override { return statementNumber; }
     [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
     [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
     [[nodiscard]] Text GetFile() const override { return {}; }
@@ -45,6 +46,7 @@ class RecordingEditedDocument final : public EditedDocument {
     /// What the text does while it is changed, and when the palette asks to be filled.
     std::function<void()> onChange;
     std::function<void()> onUpdate;
+    int statementNumber = 1;
     Text selector;
     int selectorType = 5;
 

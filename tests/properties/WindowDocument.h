@@ -23,6 +23,9 @@ class WindowDocument final : public EditedDocument {
     void PreviewNow() override { window_.PreviewNow(); }
     void PreviewCurrentRule() override { window_.PreviewCurrentRule(); }
     void DisableNextPreview() override { window_.DisableNextPreview(); }
+    [[nodiscard]] int GetCurrentStatementNumber() const override {
+        return window_.GetCurrentStatementNumber(window_.GetSelectionStart());
+    }
     [[nodiscard]] Text GetCurrentSelector() const override { return window_.GetCurrentSelector(); }
     [[nodiscard]] int GetCurrentSelectorType() const override { return window_.GetCurrentSelectorType(); }
     [[nodiscard]] Text GetFile() const override { return window_.GetFile(); }
