@@ -6,7 +6,8 @@ PlaceOfEdit PresentPlaceOfEdit(EditedDocuments& documents) {
     const EditedDocument* const document = documents.GetActiveDocument();
     if (document == nullptr)
         return {};
-    return {document, document->GetFile(), document->GetCurrentStatementNumber(), document->GetCurrentSelector()};
+    return {document, document->GetFile(), document->GetCurrentStatementNumber(), document->GetCurrentSelector(),
+            document->GetCurrentSelectorType()};
 }
 
 }  // namespace tintora

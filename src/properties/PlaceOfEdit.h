@@ -14,6 +14,7 @@ struct PlaceOfEdit {
 
     int statement = 0;
     Text selector;
+    int selectorType = 0;
 
     friend bool operator==(const PlaceOfEdit&, const PlaceOfEdit&) = default;
 };

@@ -2,17 +2,10 @@
 
 namespace tintora {
 
-PresentRule::PresentRule(EditedDocuments& documents) : documents_(documents), document_(documents.GetActiveDocument()) {
-    if (document_ == nullptr)
-        return;
-    selector_ = document_->GetCurrentSelector();
-    selectorType_ = document_->GetCurrentSelectorType();
-}
+PresentRule::PresentRule(EditedDocuments& documents) : documents_(documents), place_(PresentPlaceOfEdit(documents)) {}
 
 bool PresentRule::IsStillInFront() const {
-    const EditedDocument* const document = documents_.GetActiveDocument();
-    return document != nullptr && document == document_ && document->GetCurrentSelector() == selector_ &&
-           document->GetCurrentSelectorType() == selectorType_;
+    return place_.document != nullptr && place_ == PresentPlaceOfEdit(documents_);
 }
 
 }  // namespace tintora

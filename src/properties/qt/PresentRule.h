@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/PaletteSurroundings.h"
+#include "properties/PlaceOfEdit.h"
 
 namespace tintora {
 
@@ -16,10 +16,7 @@ class PresentRule {
 
   private:
     EditedDocuments& documents_;
-    /// Only compared: the document may have gone.
-    const EditedDocument* document_;
-    Text selector_;
-    int selectorType_ = 0;
+    PlaceOfEdit place_;
 };
 
 }  // namespace tintora
