@@ -62,10 +62,14 @@ void ChoiceBox::ShowText(const ChoiceList& list, TextView text) {
     const QSignalBlocker blocker(this);
     const Text before = ShownText();
     const int caret = isEditable() ? lineEdit()->cursorPosition() : 0;
+    const int present = currentIndex();
     model_->Offer(list.Entries());
     const bool isChosen = list.Chosen() != ChoiceList::None && list.ChosenText() == text;
     const std::size_t place = isChosen ? list.Chosen() : list.Find(text);
-    ShowIndexAndText(place == ChoiceList::None ? -1 : static_cast<int>(place), ToQString(text));
+    const int first = place == ChoiceList::None ? -1 : static_cast<int>(place);
+    // Of equal entries the one that was chosen stays, or the arrow keys wouldn't get past them.
+    const bool isEqual = present >= 0 && present < count() && EntryAt(present) == text;
+    ShowIndexAndText(isEqual ? present : first, ToQString(text));
     if (isEditable() && ShownText() == before)
         lineEdit()->setCursorPosition(caret);
 }
