@@ -25,7 +25,7 @@ constexpr auto Rows = std::to_array<ControlRow>({
     {TextLayout, u"", u"LetterSpacingEditor", u"Letter spacing", Length, 1005, true},
     {TextLayout, u"", u"WordSpacingEditor", u"Word spacing", Length, 1006, true},
     {TextLayout, u"", u"TextIndentEditor", u"Indent", Length, 1007, true},
-    {TextLayout, u"", u"VerticalAlignEditor", u"Vertical alignment", Length, 1008, true},
+    {TextLayout, u"", u"VerticalAlignEditor", u"Vertical align", Length, 1008, true},
     {TextLayout, u"", u"LineHeightEditor", u"Line height", Length, 1009},
     {TextLayout, u"", u"TextAlignEditor", u"Alignment", Keyword, 1010},
 
@@ -59,10 +59,10 @@ constexpr auto Rows = std::to_array<ControlRow>({
     {PageLayout, u"", u"RightEditor", u"Right", Length, 1033, true},
     {PageLayout, u"", u"WidthEditor", u"Width", Length, 1034},
     {PageLayout, u"", u"HeightEditor", u"Height", Length, 1035},
-    {PageLayout, u"", u"MinWidthEditor", u"Minimum width", Length, 1036},
-    {PageLayout, u"", u"MaxWidthEditor", u"Maximum width", Length, 1037},
-    {PageLayout, u"", u"MinHeightEditor", u"Minimum height", Length, 1038},
-    {PageLayout, u"", u"MaxHeightEditor", u"Maximum height", Length, 1039},
+    {PageLayout, u"", u"MinWidthEditor", u"Min width", Length, 1036},
+    {PageLayout, u"", u"MaxWidthEditor", u"Max width", Length, 1037},
+    {PageLayout, u"", u"MinHeightEditor", u"Min height", Length, 1038},
+    {PageLayout, u"", u"MaxHeightEditor", u"Max height", Length, 1039},
     {PageLayout, u"", u"VisibilityEditor", u"Visibility", Keyword, 1040},
     {PageLayout, u"", u"ZIndexEditor", u"Stacking order", Length, 1041, true},
 

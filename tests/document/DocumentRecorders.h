@@ -297,10 +297,11 @@ class RecordedDocument {
   public:
     RecordedDocument() : RecordedDocument(std::make_unique<MemoryRecovery>()) {}
 
-    explicit RecordedDocument(std::unique_ptr<RecoveryCopies> copies)
-        : recovery(std::move(copies)),
-          window({view, frame, statements, properties, preview, preview, dialogs, files, pages, *recovery, dialogs,
-                  clipboard, settings, clock, popup}) {}
+    explicit RecordedDocument(std::unique_ptr<RecoveryCopies> copies) : RecordedDocument(std::move(copies), nullptr) {}
+
+    /// With another palette of properties than the one that writes down.
+    explicit RecordedDocument(PropertiesPalette& palette)
+        : RecordedDocument(std::make_unique<MemoryRecovery>(), &palette) {}
 
     /// The kept recovery copies, of a document that has them in memory.
     [[nodiscard]] std::map<std::string, RecoveryRecord>& Copies() {
@@ -385,6 +386,11 @@ class RecordedDocument {
     ktStyleSheetWindow window;
 
   private:
+    RecordedDocument(std::unique_ptr<RecoveryCopies> copies, PropertiesPalette* palette)
+        : recovery(std::move(copies)),
+          window({view, frame, statements, palette == nullptr ? properties : *palette, preview, preview, dialogs, files,
+                  pages, *recovery, dialogs, clipboard, settings, clock, popup}) {}
+
     static int CodeOf(char16_t character) {
         if (character == u';' || character == u':')
             return key_code::SemicolonOrColon;

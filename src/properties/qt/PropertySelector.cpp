@@ -1,5 +1,6 @@
 #include "properties/qt/PropertySelector.h"
 
+#include "properties/qt/NarrowTabBar.h"
 #include "text/qt/QtText.h"
 
 #include <QKeyEvent>
@@ -7,7 +8,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
-#include <QTabBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -23,14 +23,10 @@ void Fill(QListWidget& list, const Texts& texts) {
 }  // namespace
 
 PropertySelector::PropertySelector(QWidget* parent)
-    : QWidget(parent), modes_(new QTabBar(this)), views_(new QStackedWidget(this)) {
+    : QWidget(parent), modes_(new NarrowTabBar(this)), views_(new QStackedWidget(this)) {
     setObjectName(QStringLiteral("PropertySelectorPane"));
     modes_->setObjectName(QStringLiteral("PropertySelectorMode"));
     modes_->setAccessibleName(QStringLiteral("Views of the properties"));
-    modes_->setDrawBase(false);
-    // In a narrow palette the captions are cut.
-    modes_->setElideMode(Qt::ElideRight);
-    modes_->setUsesScrollButtons(false);
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);

@@ -7,11 +7,12 @@
 class QAbstractItemView;
 class QListWidget;
 class QStackedWidget;
-class QTabBar;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace tintora {
+
+class NarrowTabBar;
 
 /// The list of all properties, in one of four views. Its name is `PropertySelectorPane`; `PropertySelector` is the
 /// tree in it.
@@ -58,7 +59,7 @@ class PropertySelector : public QWidget {
     void ShowView(int index);
     void SelectInView();
 
-    QTabBar* modes_;
+    NarrowTabBar* modes_;
     QStackedWidget* views_;
     QListWidget* editors_ = nullptr;
     QTreeWidget* tree_ = nullptr;

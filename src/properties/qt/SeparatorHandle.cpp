@@ -13,7 +13,6 @@ constexpr int KeyStep = 12;
 }  // namespace
 
 SeparatorHandle::SeparatorHandle(QSplitter* parent) : QSplitterHandle(Qt::Vertical, parent) {
-    setObjectName(QStringLiteral("Separator"));
     setAccessibleName(QStringLiteral("Boundary between properties and editor"));
     setFocusPolicy(Qt::TabFocus);
 }

@@ -4,7 +4,7 @@
 
 namespace tintora {
 
-/// The boundary between two parts, `Separator`: it can be dragged, and moved by the arrow keys when it has the focus.
+/// The boundary between two parts: it can be dragged, and moved by the arrow keys when it has the focus.
 class SeparatorHandle : public QSplitterHandle {
     Q_OBJECT
 
