@@ -29,10 +29,14 @@ constexpr auto EditorKeys = std::to_array<TextView>({
 /// What the document window rules by its file.
 constexpr auto WindowKeys = std::to_array<TextView>({u"miFSave", u"miSNewAtImport"});
 
+/// What works in a rule only, as the tools of the core properties do.
+constexpr auto RuleKeys = std::to_array<TextView>({u"miFoFont"});
+
 bool IsRuledByEditor(TextView key) { return std::ranges::find(EditorKeys, key) != EditorKeys.end(); }
 
 bool IsRuledOtherwise(TextView key) {
     return IsRuledByEditor(key) || std::ranges::find(WindowKeys, key) != WindowKeys.end() ||
+           std::ranges::find(RuleKeys, key) != RuleKeys.end() ||
            std::ranges::find(CorePropertyTools, key) != CorePropertyTools.end();
 }
 

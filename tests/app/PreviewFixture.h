@@ -25,7 +25,7 @@ class WindowPreviewTest : public WindowTest {
         QDir(folder.path()).mkpath("program/Help_Files/Preview");
         QDir(folder.path()).mkdir("tmp");
         MakeFile("program/Help_Files/Preview/default.html", "<head></head><h1>Default</h1><p class='a'>text</p>");
-        window->resize(900, 700);
+        window->resize(1200, 900);
     }
 
     /// Shows the window with a style sheet in front, and waits until it is seen on the page.

@@ -25,6 +25,8 @@ struct Told {
     bool isConnected = true;
     /// The answer to questions for files; none is a cancelled question.
     QStringList files;
+    /// The answer to questions for colours.
+    std::optional<QColor> color;
     FileDialogs::SaveAnswer saveAnswer = FileDialogs::SaveAnswer::No;
     /// Answers of the questions to come, before `saveAnswer` holds.
     std::deque<FileDialogs::SaveAnswer> saveAnswers;
@@ -123,6 +125,11 @@ class WindowTest : public testing::Test {
                     [this](const FilesWanted& wanted, QWidget*) {
                         told.questions.append(wanted.title);
                         return told.files;
+                    },
+                .askColor =
+                    [this](const ColorQuestion& question, QWidget*) {
+                        told.questions.append(question.title);
+                        return told.color;
                     },
                 .processes = std::make_unique<RecordedProcesses>(told),
                 .web = std::make_unique<RecordedWeb>(told)};

@@ -24,7 +24,6 @@ const Texts Enabled = {
     u"miDescendantSelector miDynamicSelector miLanguageSelector miTypographicalSelector miGeneratedContentSelector",
     u"miFirstChildSelector miChildSelector miAdjacentSiblingSelector miAttributeSelector",
     u"miAllLinkStates miAllBasicText miAllHeadingLevels miAllTable miAllForm",
-    u"miFoFont",
     u"miWizBreadCrumb miWizLink miWizNavbar",
 };
 
@@ -34,7 +33,7 @@ const Texts DisabledBesides = {
     u"miEUndo miERedo miECut miECopy miEPaste miEClear miESelectAll miECommentOut",
     u"miSNew miSEdit miSRemove miSDuplicate",
     u"cbBPFontFamily cbBPFontSize miFoLeft miFoRight miFoCenter miFoJustify miFoBold miFoItalic miFoUnderline",
-    u"miFoStrikeThrough miColor miBackgroundColor",
+    u"miFoStrikeThrough miColor miBackgroundColor miFoFont",
 };
 
 Texts KeysIn(const Texts& lines) { return GetWordsFromText(JoinItems(lines, u" "), u" "); }

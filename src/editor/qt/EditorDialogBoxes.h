@@ -2,6 +2,8 @@
 
 #include "editor/EditorSurroundings.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace tintora {
@@ -11,8 +13,8 @@ class EditorDialogBoxes final : public EditorDialogs {
   public:
     /// `window` must outlive the object. `isOffered` says of an entry of the contextual menu whether there is what it
     /// opens.
-    using IsOffered = bool (*)(const ContextMenuEntry&);
-    EditorDialogBoxes(QWidget& window, IsOffered isOffered) : window_(window), isOffered_(isOffered) {}
+    using IsOffered = std::function<bool(const ContextMenuEntry&)>;
+    EditorDialogBoxes(QWidget& window, IsOffered isOffered) : window_(window), isOffered_(std::move(isOffered)) {}
 
     [[nodiscard]] std::optional<int> AskLineNumber() override;
     [[nodiscard]] Text ChooseFromMenu(const std::vector<ContextMenuEntry>& entries) override;

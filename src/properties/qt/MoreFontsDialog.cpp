@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -210,6 +211,13 @@ void MoreFontsDialog::UpdateControls() {
     removeFonts_->setEnabled(fonts_.CanRemove());
     up_->setEnabled(fonts_.CanMoveUp());
     down_->setEnabled(fonts_.CanMoveDown());
+}
+
+std::optional<Text> AskFontsByDialog(TextView family, QWidget* parent) {
+    Texts installed;
+    for (const QString& font : QFontDatabase::families())
+        installed.push_back(ToText(font));
+    return MoreFontsDialog(installed, parent->window()).EditFonts(family);
 }
 
 }  // namespace tintora

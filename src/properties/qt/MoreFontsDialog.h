@@ -60,4 +60,7 @@ class MoreFontsDialog : public QDialog {
     QAction* down_ = nullptr;
 };
 
+/// Asks by the dialogue, with the fonts that are installed, over the window of `parent`.
+[[nodiscard]] std::optional<Text> AskFontsByDialog(TextView family, QWidget* parent);
+
 }  // namespace tintora

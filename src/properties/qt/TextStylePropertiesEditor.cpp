@@ -8,7 +8,6 @@
 #include "properties/qt/ValueControl.h"
 #include "text/qt/QtText.h"
 
-#include <QFontDatabase>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -17,13 +16,6 @@ namespace tintora {
 namespace {
 
 constexpr int FontFamily = 1011;
-
-Texts InstalledFonts() {
-    Texts fonts;
-    for (const QString& family : QFontDatabase::families())
-        fonts.push_back(ToText(family));
-    return fonts;
-}
 
 }  // namespace
 
@@ -61,7 +53,7 @@ void TextStylePropertiesEditor::EditMoreFonts() {
     std::optional<Text> fonts;
     {
         const FlagScope dialogOpen(surroundings.flags.IsDialogOpen);
-        fonts = MoreFontsDialog(InstalledFonts(), window()).EditFonts(GetValue(FontFamily));
+        fonts = AskFontsByDialog(GetValue(FontFamily), window());
     }
     if (!fonts || !rule.IsStillInFront())
         return;

@@ -42,18 +42,23 @@ ktPropertiesEditor::~ktPropertiesEditor() {
 
 void ktPropertiesEditor::UpdateDocument() {
     EditedDocument* const document = documents_.GetActiveDocument();
-    pane_->setEnabled(document != nullptr);
-    if (document != nullptr) {
-        document->UpdatePropertiesEditor();
+    if (document == nullptr) {
+        Disable();
+        SetProperties({});
         return;
     }
-    Disable();
-    SetProperties({});
+    pane_->setEnabled(true);
+    document->UpdatePropertiesEditor();
 }
 
 void ktPropertiesEditor::Enable() {
     pane_->setEnabled(true);
     host_.Enable();
+}
+
+void ktPropertiesEditor::Disable() {
+    pane_->setEnabled(documents_.GetActiveDocument() != nullptr);
+    host_.Disable();
 }
 
 void ktPropertiesEditor::RefreshCurrentEditor() { pane_->RefreshCurrentEditor(); }

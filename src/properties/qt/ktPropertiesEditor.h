@@ -56,7 +56,8 @@ class ktPropertiesEditor : public QWidget, public PropertiesPalette {
     [[nodiscard]] bool IsOpen() const override { return isVisible(); }
 
     void Enable() override;
-    void Disable() override { host_.Disable(); }
+    /// Of a palette with a document only the editor is disabled.
+    void Disable() override;
 
     /// Throws `OverflowFailure` for a body beyond the length limit.
     void SetProperties(TextView body) override { host_.SetProperties(body); }

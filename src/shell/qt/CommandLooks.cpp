@@ -81,9 +81,45 @@ const Looks& EditMenu() {
 /// The looks of these commands are those of the toolbar of core properties, which shares its actions with the menu.
 const Looks& StyleMenu() {
     static const Looks Entries = {
-        {"miFoBold"},    {"miFoItalic"}, {"miFoUnderline"}, {"miFoStrikeThrough"},
-        Separator,       {"miFoLeft"},   {"miFoCenter"},    {"miFoRight"},
-        {"miFoJustify"}, Separator,      {"miColor"},       {"miBackgroundColor"},
+        {"mnuFoEditors"},
+        {"miFoProperty", "Edit &Property", "", QKeySequence(Qt::CTRL | Qt::Key_E),
+         "Goes to the control for the property at the caret"},
+        Separator,
+        {"miFoFont", "&Fonts…", "preferences-desktop-font", {}, "Composes the fonts of the rule's text"},
+        Separator,
+        {"miFoBold"},
+        {"miFoItalic"},
+        {"miFoUnderline"},
+        {"miFoStrikeThrough"},
+        Separator,
+        {"miFoLeft"},
+        {"miFoCenter"},
+        {"miFoRight"},
+        {"miFoJustify"},
+        Separator,
+        {"miColor"},
+        {"miBackgroundColor"},
+    };
+    return Entries;
+}
+
+const Looks& EditorsMenu() {
+    static const Looks Entries = {
+        {"miPropsTextStyle", "Text &Style", "", {}, "Color, fonts and decoration of the text"},
+        {"miPropsText", "&Text", "", {}, "Spacing, alignment and line height of the text"},
+        {"miPropsBackground", "&Background", "", {}, "Color and image of the ground"},
+        {"miPropsBorder", "B&order", "", {}, "Style, width and color of the borders"},
+        {"miPropsMargin", "&Margin", "", {}, "The space around the border"},
+        {"miPropsPadding", "P&adding", "", {}, "The space within the border"},
+        {"miPropsPageLayout", "Page &Layout", "", {}, "Position and size"},
+        {"miPropsDisplayType", "&Display Type", "", {}, "Blocks, lists and tables"},
+        Separator,
+        {"miPropsAdvancedText", "Ad&vanced Text", "", {}, "Small capitals, letter case and direction of the text"},
+        {"miPropsAdvancedLayout", "Advan&ced Layout", "", {}, "What overflows, floats and is clipped"},
+        {"miPropsUI", "&User Interface", "", {}, "Cursor and outline"},
+        {"miPropsPageBreak", "Page B&reak", "", {}, "Where printed pages end"},
+        {"miPropsQuotes", "&Quotes", "", {}, "The quotation marks"},
+        {"miPropsContent", "Co&ntent", "", {}, "What is generated before and after an element"},
     };
     return Entries;
 }
@@ -141,6 +177,8 @@ const Looks& PreviewMenu() {
 const Looks& WindowMenu() {
     static const Looks Entries = {
         {"miWSelectorsEditor", "&Statements", "view-list-tree", {}, "Shows or hides the list of statements"},
+        {"miWPropertiesEditor", "P&roperties", "document-properties", QKeySequence(Qt::Key_F4),
+         "Shows or hides the forms for the properties of the current rule"},
         Separator,
         {"miWShowAllPalettes", "Show All &Palettes", "", {}, "Shows every palette"},
         {"miWHideAllPalettes", "&Hide All Palettes", "", {}, "Leaves the text alone in the window"},
@@ -190,6 +228,7 @@ std::span<const MenuLook> MenuLooks() {
 MenuLook SubmenuLook(QLatin1String key) {
     static const std::vector<MenuLook> Submenus = {
         {"mnuFOpenRecent", "Open &Recent", {}},
+        {"mnuFoEditors", "&Editors", EditorsMenu()},
         {"mnuSRules", "&New Rules", RulesMenu()},
         {"mnuWLayouts", "&Layout", LayoutsMenu()},
         {"mnuHOnline", "&Online", {}},

@@ -2,6 +2,7 @@
 
 #include "language/Vocabulary.h"
 #include "model/DeclarationText.h"
+#include "properties/qt/MoreFontsDialog.h"
 #include "shell/Commands.h"
 #include "shell/CorePropertiesHost.h"
 #include "shell/PropertyToggles.h"
@@ -12,6 +13,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <algorithm>
 #include <exception>
 
@@ -142,6 +144,20 @@ void CorePropertiesBar::ShowFontFamilies() {
     const FrontDocument* const sheet = host_.ActiveStyleSheet();
     if (sheet != nullptr && !fontFamily_->IsGuarded())
         fontFamily_->ShowList(ToQStringList(GetPossibleValues(PropertyNumberFromName(u"font-family"), sheet)));
+}
+
+void CorePropertiesBar::EditMoreFonts() {
+    const FrontDocument* const sheet = host_.ActiveStyleSheet();
+    if (!IsStillInFront(sheet))
+        return;
+    const QPointer<CorePropertiesBar> bar(this);
+    const std::optional<Text> family = AskFontsByDialog(ToText(fontFamily_->currentText()), window());
+    if (!bar.isNull() && family && IsStillInFront(sheet))
+        host_.PropertyHasChanged(*family, PropertyNumberFromName(u"font-family"));
+}
+
+bool CorePropertiesBar::IsStillInFront(const FrontDocument* sheet) const {
+    return isEnabled_ && sheet != nullptr && host_.ActiveStyleSheet() == sheet;
 }
 
 void CorePropertiesBar::ShowMarks() {

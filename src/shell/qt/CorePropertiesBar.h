@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/CorePropertiesToolbar.h"
 #include "properties/qt/ColorQuestion.h"
+#include "shell/CorePropertiesToolbar.h"
 #include "text/Text.h"
 
 #include <QToolBar>
@@ -15,6 +15,7 @@ namespace tintora {
 
 class CorePropertiesHost;
 class CorePropertyBox;
+class FrontDocument;
 struct PropertyChange;
 
 /// The toolbar of core properties: it shows the most common declarations of the current rule, and changes them.
@@ -55,6 +56,10 @@ class CorePropertiesBar : public QToolBar {
     void EditColorGM();
     void EditBackgroundColorGM();
 
+    /// Has the user compose the fonts of the first box in `MoreFontsDialog`, and writes them, under the same
+    /// conditions.
+    void EditMoreFonts();
+
     /// The action of a tool, for menus to share; `nullptr` for the two combo boxes and for a key of no tool.
     [[nodiscard]] QAction* Action(TextView key) const;
 
@@ -71,6 +76,8 @@ class CorePropertiesBar : public QToolBar {
     void Act(const std::function<void()>& act);
     void Change(const std::vector<PropertyChange>& changes);
     void EditColor(TextView property, const QString& title);
+    /// Whether there is a style sheet to change, and it is still the one before a question.
+    [[nodiscard]] bool IsStillInFront(const FrontDocument* sheet) const;
     void ShowFontFamilies();
     void ShowMarks();
     void ReadColors(const Texts& declarations);

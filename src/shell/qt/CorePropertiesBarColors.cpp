@@ -45,7 +45,7 @@ void CorePropertiesBar::EditBackgroundColorGM() {
 
 void CorePropertiesBar::EditColor(TextView property, const QString& title) {
     const FrontDocument* const sheet = host_.ActiveStyleSheet();
-    if (!isEnabled_ || sheet == nullptr)
+    if (!IsStillInFront(sheet))
         return;
     ColorQuestion question{title, ColorOf(host_.CurrentDeclarations(), property), {}};
     for (const ColorValue color : ColorsToShow(GetCurrentColorList(sheet)))
@@ -53,7 +53,7 @@ void CorePropertiesBar::EditColor(TextView property, const QString& title) {
     const QPointer<CorePropertiesBar> bar(this);
     const std::optional<QColor> answer = askColor_(question, this);
     // Meanwhile another start of the program may have brought another style sheet to the front.
-    if (bar.isNull() || !answer || !isEnabled_ || host_.ActiveStyleSheet() != sheet)
+    if (bar.isNull() || !answer || !IsStillInFront(sheet))
         return;
     host_.PropertyHasChanged(ToText(answer->name(QColor::HexRgb)), PropertyNumberFromName(property));
 }

@@ -4,6 +4,7 @@
 #include "preview/BrowserSurroundings.h"
 #include "preview/TemporaryFiles.h"
 #include "preview/qt/FilesWanted.h"
+#include "properties/qt/ColorQuestion.h"
 #include "settings/SettingsStore.h"
 #include "shell/qt/UserMessages.h"
 #include "validation/ValidationSurroundings.h"
@@ -23,8 +24,9 @@ struct FrameSurroundings {
     /// The file in which the arrangement of panes and toolbars is kept; with "" it isn't.
     QString layoutPath{};
     PreviewFolders previewFolders{};
-    /// Asks for files.
+    /// Ask for files and for colours.
     AskFiles askFiles = AskFilesByDialog;
+    AskColor askColor = AskColorByDialog;
     /// The way to programs and to the web; without one, the system's own.
     std::unique_ptr<ProcessStarter> processes{};
     std::unique_ptr<WebAccess> web{};

@@ -11,9 +11,12 @@ namespace tintora {
 
 namespace {
 
-/// Whether an entry of the contextual menu does something: the forms that the others open aren't there yet.
-bool IsBuilt(const ContextMenuEntry& entry) {
-    constexpr auto Unbuilt = std::to_array<TextView>({u"Edit Property", u"New Statement", u"Edit Selector"});
+/// Whether an entry of the contextual menu does something: the forms that some open aren't there yet, and a property
+/// is edited in the palette only while that is open.
+bool DoesSomething(const ContextMenuEntry& entry, const PropertiesPalette& properties) {
+    constexpr auto Unbuilt = std::to_array<TextView>({u"New Statement", u"Edit Selector"});
+    if (entry.caption == u"Edit Property")
+        return properties.IsOpen();
     return std::find(Unbuilt.begin(), Unbuilt.end(), entry.caption) == Unbuilt.end();
 }
 
@@ -23,13 +26,15 @@ StyleSheetPane::StyleSheetPane(const QString& caption, const PaneSurroundings& s
     : frame_(surroundings.frame),
       statements_(surroundings.statements),
       notice_(new NoticeBar(this)),
-      dialogs_(*this, IsBuilt),
+      dialogs_(*this, [&palette = surroundings.properties](
+                          const ContextMenuEntry& entry) { return DoesSomething(entry, palette); }),
       previews_(surroundings.previews),
       view_(this),
       typeAheadPopup_(view_, [this](TextView choice) { window_.SetTypeAheadChoice(choice); }),
-      window_({view_, *this, *this, unbuilt_, previews_, unbuilt_, unbuilt_, surroundings.messages,
+      window_({view_, *this, *this, surroundings.properties, previews_, unbuilt_, unbuilt_, surroundings.messages,
                surroundings.messages, surroundings.recovery, dialogs_, clipboard_, surroundings.settings, clock_,
-               typeAheadPopup_}) {
+               typeAheadPopup_}),
+      edited_(window_) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

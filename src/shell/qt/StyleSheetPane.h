@@ -7,6 +7,7 @@
 #include "editor/qt/QtTypeAheadPopup.h"
 #include "editor/qt/ScintillaSourceView.h"
 #include "preview/DocumentPreviews.h"
+#include "properties/EditedStyleSheet.h"
 #include "selectors/FrontStyleSheet.h"
 #include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"
@@ -36,6 +37,7 @@ class PaneFrame : public EditorFrame {
 struct PaneSurroundings {
     PaneFrame& frame;
     StatementsPalette& statements;
+    PropertiesPalette& properties;
     UserMessages& messages;
     RecoveryCopies& recovery;
     SettingsStore& settings;
@@ -62,6 +64,8 @@ class StyleSheetPane : public QWidget, public FrontStyleSheet, private DocumentF
     [[nodiscard]] ktStyleSheetWindow& Window() noexcept { return window_; }
     [[nodiscard]] CSSEditorSrcView& CSSEditor() noexcept { return window_.CSSEditor(); }
     [[nodiscard]] const DocumentPreviews& Previews() const noexcept { return previews_; }
+    /// The document as the palette "Properties" changes it.
+    [[nodiscard]] EditedDocument& Edited() noexcept { return edited_; }
     [[nodiscard]] ScintillaSourceView& View() noexcept { return view_; }
 
     /// The encoding of the file and the line end of the text, for the status bar.
@@ -121,6 +125,7 @@ class StyleSheetPane : public QWidget, public FrontStyleSheet, private DocumentF
     ScintillaSourceView view_;
     QtTypeAheadPopup typeAheadPopup_;
     ktStyleSheetWindow window_;
+    EditedStyleSheet edited_;
 };
 
 }  // namespace tintora

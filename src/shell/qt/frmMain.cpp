@@ -2,6 +2,7 @@
 
 #include "preview/qt/SystemBrowsers.h"
 #include "preview/qt/SystemProcesses.h"
+#include "properties/qt/ktPropertiesEditor.h"
 #include "selectors/qt/ktSelectorPalette.h"
 #include "shell/CommandLine.h"
 #include "shell/qt/CorePropertiesBar.h"
@@ -11,6 +12,7 @@
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/WindowPreviews.h"
+#include "shell/qt/WindowProperties.h"
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
 #include "validation/qt/SystemWebAccess.h"
@@ -48,17 +50,19 @@ frmMain::frmMain(FrameSurroundings surroundings)
       messages_(surroundings.messages ? std::move(surroundings.messages) : std::make_unique<MessageBoxes>(*this)),
       previewFolders_(std::move(surroundings.previewFolders)),
       askFiles_(std::move(surroundings.askFiles)),
+      askColor_(std::move(surroundings.askColor)),
       processes_(surroundings.processes ? std::move(surroundings.processes) : std::make_unique<SystemProcesses>()),
       browserLocations_(store_, SystemPrograms()),
       web_(surroundings.web ? std::move(surroundings.web)
                             : std::make_unique<SystemWebAccess>(browserLocations_, *processes_)),
       validator_(*web_, *messages_),
       layoutPath_(std::move(surroundings.layoutPath)),
-      workspace_(*this, {},
-                 [this] {
-                     if (StyleSheetPane* const pane = ActiveDocument())
-                         pane->Window().UpdatePropertiesEditor();
-                 }),
+      workspace_(
+          *this, [this] { properties_->Palette().RefreshCurrentEditor(); },
+          [this] {
+              if (StyleSheetPane* const pane = ActiveDocument())
+                  pane->Window().UpdatePropertiesEditor();
+          }),
       documents_(new QTabWidget(this)),
       statements_(nullptr),
       coreProperties_(nullptr),
@@ -70,7 +74,7 @@ frmMain::frmMain(FrameSurroundings surroundings)
     SetUpHandlers();
     SetUpPanes();
     SetUpStatusBar();
-    coreProperties_ = new CorePropertiesBar(*this, this);
+    coreProperties_ = new CorePropertiesBar(*this, this, askColor_);
     SetUpMenus();
     SetUpPreviewMenu();
     SetUpToolbars();
@@ -90,7 +94,9 @@ frmMain::~frmMain() {
     documents_->disconnect(this);
     qApp->disconnect(this);
     statements_->SetFrontStyleSheet(nullptr);
+    properties_->Close();
     delete documents_;
+    properties_.reset();
     previews_.reset();
 }
 

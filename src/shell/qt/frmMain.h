@@ -1,6 +1,7 @@
 #pragma once
 
 #include "preview/BrowserLocations.h"
+#include "properties/qt/ControlSurroundings.h"
 #include "settings/Settings.h"
 #include "shell/CommandHandlers.h"
 #include "shell/CorePropertiesHost.h"
@@ -8,6 +9,7 @@
 #include "shell/qt/DockWorkspace.h"
 #include "shell/qt/FrameSurroundings.h"
 #include "shell/qt/StyleSheetPane.h"
+#include "shell/qt/UnbuiltPalettes.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/options/OptionsHost.h"
 #include "text/Text.h"
@@ -28,6 +30,8 @@ namespace tintora {
 
 class CorePropertiesBar;
 class WindowPreviews;
+class WindowProperties;
+class ktPropertiesEditor;
 class ktSelectorPalette;
 struct ActionLook;
 struct MenuLook;
@@ -35,7 +39,11 @@ struct MenuLook;
 /// The main window: the open style sheets in tabs, the palettes around them, and the commands.
 ///
 /// Its parts lie in files of their own: menus and toolbars, what the commands do, the open style sheets, the panes.
-class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, private CorePropertiesHost {
+class frmMain : public QMainWindow,
+                private PaneFrame,
+                private OptionsHost,
+                private CorePropertiesHost,
+                private PaletteMenus {
     Q_OBJECT
 
   public:
@@ -62,6 +70,12 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
     /// Opens a new style sheet with this text, which counts as unsaved unless it is "".
     StyleSheetPane* OpenNewStyleSheet(TextView text);
+
+    /// Shows the pane of properties, and the editor of a caption or property there.
+    void OpenPropertyEditor(TextView name);
+
+    /// Shows the pane of properties, and gives the focus to the control for the property at the caret.
+    void EditPropertyAtCaret();
 
     /// Shows the pane of previews, and previews the style sheet in front.
     void PreviewNow();
@@ -118,6 +132,9 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     void PropertyHasChanged(TextView value, int number) override;
     void FocusText() override;
 
+    // PaletteMenus
+    [[nodiscard]] bool IsEditorInFront() const override { return currentForm_ == u"Editor"; }
+
     // OptionsHost
     void UpdateColorCoding() override;
     void FormatAllStyleSheets() override;
@@ -128,12 +145,17 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
 
     // Panes.
     void SetUpPanes();
+    void SetUpPropertiesPane();
     void SetUpPreviewPanes();
     void SetUpPaneMarks();
     void ToggleFloatingWindow(TextView pane);
     void UpdateAfterPalettes();
     void FollowFocus(const QWidget* now);
+    /// What can be cut, copied, pasted and cleared where the focus is.
+    void UpdateClipboardItems();
     void GoToNextPane();
+    /// The form of the pane that has the focus; `nullptr` for none.
+    [[nodiscard]] QWidget* ActiveEditor() const;
     void GoToDocument(int step);
 
     // Menus and toolbars.
@@ -155,13 +177,17 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     void SetUpHandlers();
     void SetUpFileHandlers();
     void SetUpEditHandlers();
+    void SetUpClipboardHandlers();
     void SetUpStatementHandlers();
     void SetUpPreviewHandlers();
     void SetUpWindowHandlers();
     void SetUpCorePropertyHandlers();
+    void SetUpPropertyHandlers();
     void SetUpHelpHandlers();
     void HandleForDocument(CommandOperation operation, void (ktStyleSheetWindow::*command)());
     void HandleForEditor(CommandOperation operation, void (CSSEditorSrcView::*command)());
+    void HandleByFocus(CommandOperation operation, void (CSSEditorSrcView::*command)(),
+                       void (ktPropertiesEditor::*inPalette)());
 
     // The open style sheets.
     void AskForStyleSheet();
@@ -182,6 +208,7 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     std::unique_ptr<UserMessages> messages_;
     PreviewFolders previewFolders_;
     AskFiles askFiles_;
+    AskColor askColor_;
     std::unique_ptr<ProcessStarter> processes_;
     BrowserLocations browserLocations_;
     std::unique_ptr<WebAccess> web_;
@@ -189,6 +216,8 @@ class frmMain : public QMainWindow, private PaneFrame, private OptionsHost, priv
     CommandHandlers handlers_;
     QString layoutPath_;
     DockWorkspace workspace_;
+    UnbuiltPalettes unbuilt_;
+    std::unique_ptr<WindowProperties> properties_;
     std::unique_ptr<WindowPreviews> previews_;
     QTabWidget* documents_;
     ktSelectorPalette* statements_;

@@ -171,7 +171,8 @@ void frmMain::EnableDocumentCommands(bool enabled) {
     for (const TextView key : enabled ? MenusToEnable() : MenusToDisable())
         UpdateMenuItem(key, enabled);
     previews_->EnablePreviews(enabled);
-    for (const TextView key : {TextView(u"miWNextDocument"), TextView(u"miWPreviousDocument")})
+    for (const TextView key :
+         {TextView(u"miFoProperty"), TextView(u"miWNextDocument"), TextView(u"miWPreviousDocument")})
         UpdateMenuItem(key, enabled);
 }
 

@@ -1,6 +1,7 @@
 // What the commands do.
 
 #include "editor/qt/PageLayout.h"
+#include "properties/qt/ktPropertiesEditor.h"
 #include "shell/Layouts.h"
 #include "shell/qt/frmMain.h"
 #include "shell/qt/frmSplash.h"
@@ -14,8 +15,10 @@ namespace tintora {
 void frmMain::SetUpHandlers() {
     SetUpFileHandlers();
     SetUpEditHandlers();
+    SetUpClipboardHandlers();
     SetUpStatementHandlers();
     SetUpCorePropertyHandlers();
+    SetUpPropertyHandlers();
     SetUpPreviewHandlers();
     SetUpWindowHandlers();
     SetUpHelpHandlers();
@@ -32,6 +35,17 @@ void frmMain::HandleForEditor(CommandOperation operation, void (CSSEditorSrcView
     handlers_.Set(operation, [this, command](const Command&) {
         if (StyleSheetPane* const pane = ActiveDocument())
             (pane->CSSEditor().*command)();
+    });
+}
+
+void frmMain::HandleByFocus(CommandOperation operation, void (CSSEditorSrcView::*command)(),
+                            void (ktPropertiesEditor::*inPalette)()) {
+    handlers_.Set(operation, [this, command, inPalette](const Command&) {
+        StyleSheetPane* const pane = ActiveDocument();
+        if (pane != nullptr && IsDocumentInFront())
+            (pane->CSSEditor().*command)();
+        else if (auto* const palette = qobject_cast<ktPropertiesEditor*>(ActiveEditor()))
+            (palette->*inPalette)();
     });
 }
 
@@ -55,18 +69,6 @@ void frmMain::SetUpFileHandlers() {
 
 void frmMain::SetUpEditHandlers() {
     using enum CommandOperation;
-    // The palettes that there are have nothing to cut, copy, paste or clear.
-    const auto route = [this](CommandOperation operation, void (CSSEditorSrcView::*command)()) {
-        handlers_.Set(operation, [this, command](const Command&) {
-            StyleSheetPane* const pane = ActiveDocument();
-            if (pane != nullptr && IsDocumentInFront())
-                (pane->CSSEditor().*command)();
-        });
-    };
-    route(Cut, &CSSEditorSrcView::Cut);
-    route(Copy, &CSSEditorSrcView::Copy);
-    route(Paste, &CSSEditorSrcView::Paste);
-    route(Clear, &CSSEditorSrcView::Clear);
     const auto undo = [this](CommandOperation operation, void (CSSEditorSrcView::*command)()) {
         handlers_.Set(operation, [this, command](const Command&) {
             StyleSheetPane* const pane = ActiveDocument();
@@ -87,6 +89,14 @@ void frmMain::SetUpEditHandlers() {
     HandleForEditor(Indent, &CSSEditorSrcView::Indent);
     HandleForEditor(Outdent, &CSSEditorSrcView::Outdent);
     HandleForDocument(FormatStyleSheetText, &ktStyleSheetWindow::FormatStyleSheetText);
+}
+
+void frmMain::SetUpClipboardHandlers() {
+    using enum CommandOperation;
+    HandleByFocus(Cut, &CSSEditorSrcView::Cut, &ktPropertiesEditor::Cut);
+    HandleByFocus(Copy, &CSSEditorSrcView::Copy, &ktPropertiesEditor::Copy);
+    HandleByFocus(Paste, &CSSEditorSrcView::Paste, &ktPropertiesEditor::Paste);
+    HandleByFocus(Clear, &CSSEditorSrcView::Clear, &ktPropertiesEditor::Clear);
 }
 
 void frmMain::SetUpStatementHandlers() {

@@ -4,11 +4,13 @@
 #include "linking/HtmlStyle.h"
 #include "linking/TextFiles.h"
 #include "linking/TextWriting.h"
+#include "properties/qt/ktPropertiesEditor.h"
 #include "selectors/qt/ktSelectorPalette.h"
 #include "shell/qt/LayoutFile.h"
 #include "shell/qt/StyleSheetPane.h"
 #include "shell/qt/UserMessages.h"
 #include "shell/qt/WindowPreviews.h"
+#include "shell/qt/WindowProperties.h"
 #include "shell/qt/frmMain.h"
 #include "text/Narrowing.h"
 #include "text/qt/QtText.h"
@@ -78,12 +80,13 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
 
 StyleSheetPane* frmMain::OpenNewStyleSheet(TextView text) {
     ++newDocumentCount_;
-    auto* const pane =
-        new StyleSheetPane(QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_),
-                           {*this, *statements_, *messages_, recovery_, store_, previews_->Controller()});
+    auto* const pane = new StyleSheetPane(
+        QStringLiteral("style_sheet_%1.css").arg(newDocumentCount_),
+        {*this, *statements_, properties_->Palette(), *messages_, recovery_, store_, previews_->Controller()});
     connect(pane, &StyleSheetPane::CaptionChanged, this, [this, pane] { UpdateCaption(pane); });
     connect(pane, &StyleSheetPane::StatementsRead, this, [this, pane] { reportedAsTooLong_.erase(pane); });
     openDocuments_.insert(openDocuments_.begin(), pane);
+    properties_->Palette().RegisterStyleSheet(ToText(pane->Caption()));
     documents_->setCurrentIndex(documents_->addTab(pane, pane->Caption()));
     UpdateCaption(pane);
     pane->setFocus();
@@ -100,6 +103,7 @@ void frmMain::PaneActivated() {
     if (pane == nullptr) {
         caretPosition_->clear();
         format_->clear();
+        properties_->Palette().UpdateDocument();
         EnableDocumentCommands(false);
     } else {
         pane->Window().Activate();
@@ -175,6 +179,7 @@ void frmMain::RemovePane(StyleSheetPane* pane) {
     if (statements_->GetFrontStyleSheet() == pane)
         statements_->SetFrontStyleSheet(nullptr);
     reportedAsTooLong_.erase(pane);
+    properties_->Palette().UnRegisterStyleSheet(ToText(pane->Caption()));
     documents_->removeTab(documents_->indexOf(pane));
     pane->deleteLater();
     PaneActivated();

@@ -1,9 +1,11 @@
 // The panes around the style sheets, and where the focus is among them.
 
+#include "properties/qt/ktPropertiesEditor.h"
 #include "selectors/SelectorCommands.h"
 #include "selectors/qt/ktSelectorPalette.h"
 #include "shell/Layouts.h"
 #include "shell/Panes.h"
+#include "shell/qt/WindowProperties.h"
 #include "shell/qt/frmMain.h"
 #include "text/qt/QtText.h"
 
@@ -48,6 +50,7 @@ void frmMain::SetUpPanes() {
     workspace_.AddPane(u"dwSelectorsEditor", QStringLiteral("Statements"), statements_);
     connect(statements_, &ktSelectorPalette::ShowFloatingWindow, this,
             [this](const QString& pane) { ShowFloatingWindow(workspace_, ToText(pane)); });
+    SetUpPropertiesPane();
     SetUpPreviewPanes();
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) { FollowFocus(now); });
 }
@@ -90,8 +93,34 @@ void frmMain::FollowFocus(const QWidget* now) {
     // What is changed from there must not go into the rule that the caret has left.
     if (StyleSheetPane* const pane = ActiveDocument(); pane != nullptr && !isInDocument)
         pane->Window().FollowCaretNow();
-    if (!isInToolbar)
-        currentForm_ = isInDocument ? u"Document" : u"Editor";
+    if (isInToolbar)
+        return;
+    currentForm_ = isInDocument ? u"Document" : u"Editor";
+    UpdateClipboardItems();
+}
+
+void frmMain::UpdateClipboardItems() {
+    StyleSheetPane* const pane = ActiveDocument();
+    if (pane == nullptr)
+        return;
+    if (IsDocumentInFront()) {
+        pane->CSSEditor().UpdateMenu();
+        return;
+    }
+    // The other palettes have nothing to cut, copy, paste or clear.
+    const bool hasFields = ActiveEditor() == &properties_->Palette();
+    for (const TextView key : {u"miECut", u"miECopy", u"miEPaste", u"miEClear"})
+        UpdateMenuItem(key, hasFields);
+}
+
+QWidget* frmMain::ActiveEditor() const {
+    const QWidget* const focus = QApplication::focusWidget();
+    for (const Pane& pane : Panes) {
+        QWidget* const form = workspace_.GetFloatingWindow(pane.key);
+        if (form != nullptr && focus != nullptr && (form == focus || form->isAncestorOf(focus)))
+            return form;
+    }
+    return nullptr;
 }
 
 void frmMain::GoToNextPane() {

@@ -1,7 +1,10 @@
-// The toolbar of core properties and the style sheet in front.
+// The palette and the toolbar of properties, and the style sheet in front.
 
 #include "language/Vocabulary.h"
+#include "properties/qt/ktPropertiesEditor.h"
+#include "shell/Layouts.h"
 #include "shell/qt/CorePropertiesBar.h"
+#include "shell/qt/WindowProperties.h"
 #include "shell/qt/frmMain.h"
 
 namespace tintora {
@@ -12,6 +15,39 @@ constexpr int FontFamily = 1011;
 
 }  // namespace
 
+void frmMain::SetUpPropertiesPane() {
+    properties_ = std::make_unique<WindowProperties>(
+        WindowProperties::Surroundings{
+            .store = store_,
+            .menus = *this,
+            .warnings = unbuilt_,
+            .askColor = askColor_,
+            .askFiles = askFiles_,
+            .active = [this] { return ActiveDocument() == nullptr ? nullptr : &ActiveDocument()->Edited(); },
+            .showPane = [this](TextView pane) { ShowFloatingWindow(workspace_, pane); },
+            .focusText = [this] { FocusText(); }},
+        *this);
+    workspace_.AddPane(u"dwPropertiesEditor", QStringLiteral("Properties"), &properties_->Palette());
+}
+
+void frmMain::SetUpPropertyHandlers() {
+    handlers_.Set(CommandOperation::OpenPropertyEditor,
+                  [this](const Command& command) { this->OpenPropertyEditor(command.parameter); });
+    handlers_.Set(CommandOperation::EditMoreFonts, [this](const Command&) { coreProperties_->EditMoreFonts(); });
+    handlers_.SetOwn(u"miFoProperty", [this] { EditPropertyAtCaret(); });
+}
+
+void frmMain::OpenPropertyEditor(TextView name) { properties_->OpenPropertyEditor(name); }
+
+void frmMain::EditPropertyAtCaret() {
+    StyleSheetPane* const pane = ActiveDocument();
+    if (pane == nullptr)
+        return;
+    properties_->Palette().ShowWindow();
+    pane->Window().FollowCaretNow();
+    pane->Window().EditCurrentProperty();
+}
+
 void frmMain::SetUpCorePropertyHandlers() {
     for (const CommandOperation operation :
          {CommandOperation::ToggleBold, CommandOperation::ToggleItalic, CommandOperation::ToggleUnderline,
@@ -20,7 +56,10 @@ void frmMain::SetUpCorePropertyHandlers() {
         handlers_.Set(operation, [this](const Command& command) { coreProperties_->RunTool(command.key); });
 }
 
-void frmMain::EnableCorePropertiesToolbar(bool enabled) { coreProperties_->EnableCorePropertiesToolbar(enabled); }
+void frmMain::EnableCorePropertiesToolbar(bool enabled) {
+    coreProperties_->EnableCorePropertiesToolbar(enabled);
+    UpdateMenuItem(u"miFoFont", enabled);
+}
 
 void frmMain::SetUpCorePropertiesToolbar(TextView body) { coreProperties_->SetUpCorePropertiesToolbar(body); }
 
