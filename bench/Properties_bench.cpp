@@ -80,6 +80,9 @@ class EditedSheet final : public EditedDocument, public EditedDocuments {
     void PreviewNow() override {}
     void PreviewCurrentRule() override {}
     void DisableNextPreview() override { Window().DisableNextPreview(); }
+    [[nodiscard]] int GetCurrentStatementNumber() const override {
+        return Window().GetCurrentStatementNumber(Window().GetSelectionStart());
+    }
     [[nodiscard]] Text GetCurrentSelector() const override { return Window().GetCurrentSelector(); }
     [[nodiscard]] int GetCurrentSelectorType() const override { return Window().GetCurrentSelectorType(); }
     [[nodiscard]] Text GetFile() const override { return {}; }
