@@ -1,5 +1,6 @@
 #include "properties/qt/NarrowTabBar.h"
 
+#include <QProxyStyle>
 #include <algorithm>
 
 namespace tintora {
@@ -9,9 +10,22 @@ namespace {
 /// A cut caption shows some letters at least.
 constexpr int LeastWidth = 44;
 
+/// The desktop's style, but for the room at both sides of a caption, of which there is half.
+class NarrowTabStyle : public QProxyStyle {
+  public:
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override {
+        const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TabBarTabHSpace ? pixels / 2 : pixels;
+    }
+};
+
 }  // namespace
 
 NarrowTabBar::NarrowTabBar(QWidget* parent) : QTabBar(parent) {
+    auto* const style = new NarrowTabStyle;
+    style->setParent(this);
+    setStyle(style);
     setDrawBase(false);
     setExpanding(false);
     setElideMode(Qt::ElideRight);

@@ -19,8 +19,9 @@ namespace {
 
 constexpr int Gap = 6;
 
-/// At first the selector has a third of the height.
-constexpr int SelectorHeight = 200;
+/// In a window of the designed size the selector shows all editors, and the longest form doesn't scroll much.
+constexpr int SelectorHeight = 284;
+constexpr int EditorHeight = 400;
 
 }  // namespace
 
@@ -37,9 +38,8 @@ PropertiesPane::PropertiesPane(const ControlSurroundings& surroundings, SupportW
     parts->addWidget(selector_);
     parts->addWidget(MakeEditorsPart());
     parts->handle(1)->setObjectName(QStringLiteral("Separator"));
-    parts->setStretchFactor(0, 1);
-    parts->setStretchFactor(1, 2);
-    parts->setSizes({SelectorHeight, 2 * SelectorHeight});
+    parts->setStretchFactor(1, 1);
+    parts->setSizes({SelectorHeight, EditorHeight});
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(parts);

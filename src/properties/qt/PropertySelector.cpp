@@ -8,12 +8,24 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace tintora {
 
 namespace {
+
+/// Rows with room between them.
+class RoomyRows : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int Room = 4;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, Room);
+    }
+};
 
 void Fill(QListWidget& list, const Texts& texts) {
     for (const Text& text : texts)
@@ -67,6 +79,7 @@ void PropertySelector::AddView(QAbstractItemView* view, const SelectorTab& tab) 
     view->setObjectName(ToQString(tab.control));
     view->setAccessibleName(caption);
     view->setFrameShape(QFrame::NoFrame);
+    view->setItemDelegate(new RoomyRows(view));
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->installEventFilter(this);
     views_->addWidget(view);
