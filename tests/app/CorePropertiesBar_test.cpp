@@ -312,7 +312,7 @@ TEST_F(CorePropertiesBarTest, ItFitsBesideOthersWithALargerFontToo) {
             box->setFont(font);
         Refill(u"{font-size: xx-large; font-family: Georgia, serif;}");
         QApplication::processEvents();
-        EXPECT_NEAR(Family().width(), 160, more == 0 ? 12 : 50);
+        EXPECT_NEAR(Family().width(), 140, more == 0 ? 12 : 50);
         EXPECT_NEAR(Size().width(), 80, more == 0 ? 12 : 30);
         const QLineEdit& field = *Size().lineEdit();
         EXPECT_GE(field.width(), field.fontMetrics().horizontalAdvance("xx-large") + 4);

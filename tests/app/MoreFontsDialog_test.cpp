@@ -201,5 +201,11 @@ TEST_F(MoreFontsDialogTest, TheValueCantBeTypedInto) {
     EXPECT_EQ(Move("Up").toolTip(), "Move up (Alt+Up)");
 }
 
+TEST(InstalledFonts, AreNamedOnceAndWithoutTheirMakers) {
+    EXPECT_EQ(InstalledFonts({"Arial", "Courier [Adobe]", "Courier [urw]", "DejaVu Sans", "Odd ]name["}),
+              (Texts{u"Arial", u"Courier", u"DejaVu Sans", u"Odd ]name["}));
+    EXPECT_EQ(InstalledFonts({}), Texts());
+}
+
 }  // namespace
 }  // namespace tintora::test

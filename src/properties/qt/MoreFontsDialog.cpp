@@ -10,9 +10,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QToolBar>
+#include <algorithm>
 
 namespace tintora {
 
@@ -20,6 +22,7 @@ namespace {
 
 constexpr int Gap = 6;
 constexpr int GroupGap = 12;
+constexpr int TitleBarHeight = 32;
 constexpr int IconSize = 16;
 
 QLabel* MakeLabel(const QString& text, QWidget* buddy) {
@@ -50,6 +53,8 @@ MoreFontsDialog::MoreFontsDialog(const Texts& installed, QWidget* parent)
     SetUpCurrentList();
     SetUpToolbar();
     LayOut();
+    // By itself it would take two thirds of a small screen.
+    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(GroupGap, TitleBarHeight)));
     ShowFontsOfTab(fontSetChooser_->currentIndex());
     fontSelectorList_->setFocus();
 }
@@ -213,11 +218,19 @@ void MoreFontsDialog::UpdateControls() {
     down_->setEnabled(fonts_.CanMoveDown());
 }
 
+Texts InstalledFonts(const QStringList& families) {
+    Texts fonts;
+    for (const QString& family : families) {
+        const qsizetype maker = family.lastIndexOf(QLatin1String(" ["));
+        const Text font = ToText(maker < 0 ? family : family.first(maker));
+        if (std::ranges::find(fonts, font) == fonts.end())
+            fonts.push_back(font);
+    }
+    return fonts;
+}
+
 std::optional<Text> AskFontsByDialog(TextView family, QWidget* parent) {
-    Texts installed;
-    for (const QString& font : QFontDatabase::families())
-        installed.push_back(ToText(font));
-    return MoreFontsDialog(installed, parent->window()).EditFonts(family);
+    return MoreFontsDialog(InstalledFonts(QFontDatabase::families()), parent->window()).EditFonts(family);
 }
 
 }  // namespace tintora

@@ -3,6 +3,7 @@
 #include "properties/FontFamilyList.h"
 
 #include <QDialog>
+#include <QStringList>
 #include <optional>
 
 class QAction;
@@ -59,6 +60,10 @@ class MoreFontsDialog : public QDialog {
     QAction* up_ = nullptr;
     QAction* down_ = nullptr;
 };
+
+/// The fonts of the toolkit's families, each once. Where several makers have a font of one name the toolkit puts the
+/// maker behind it: "Courier [Adobe]"; a style sheet knows no makers.
+[[nodiscard]] Texts InstalledFonts(const QStringList& families);
 
 /// Asks by the dialogue, with the fonts that are installed, over the window of `parent`.
 [[nodiscard]] std::optional<Text> AskFontsByDialog(TextView family, QWidget* parent);

@@ -44,7 +44,7 @@ CorePropertiesBar::CorePropertiesBar(CorePropertiesHost& host, QWidget* parent, 
     : QToolBar(ToQString(Caption), parent),
       host_(host),
       askColor_(std::move(askColor)),
-      fontFamily_(MakeBox(FontFamilyBox, QStringLiteral("Verdana, serif"), QStringLiteral("Font family"),
+      fontFamily_(MakeBox(FontFamilyBox, QStringLiteral("Verdana, Geneva"), QStringLiteral("Font family"),
                           QStringLiteral("The fonts of the rule's text, the first choice in front"))),
       fontSize_(MakeBox(FontSizeBox, QStringLiteral("xx-large"), QStringLiteral("Font size"),
                         QStringLiteral("The size of the rule's text"))) {

@@ -21,6 +21,8 @@ namespace tintora {
 
 namespace {
 
+constexpr int NarrowestText = 280;
+
 /// Whether an item of the palette of statements does something: the forms that the others open aren't there yet.
 bool IsBuilt(TextView key) {
     const auto items = SelectorItems();
@@ -38,6 +40,8 @@ bool IsBuilt(TextView key) {
 }  // namespace
 
 void frmMain::SetUpPanes() {
+    // Panes don't squeeze the text.
+    documents_->setMinimumWidth(NarrowestText);
     documents_->setDocumentMode(true);
     documents_->setTabsClosable(true);
     documents_->setMovable(true);
