@@ -83,11 +83,12 @@ TEST_F(CorePropertyBoxTest, AnEmptiedBoxRemovesTheDeclaration) {
     EXPECT_EQ(host.TakeChanges(), "1001: []");
 }
 
-TEST_F(CorePropertyBoxTest, TakingATextBackChangesTheRuleToo) {
+TEST_F(CorePropertyBoxTest, UndoIsLeftToTheStyleSheet) {
     Focus(Size());
     QTest::keyClick(&Size(), Qt::Key_Delete);
     QTest::keyClick(&Size(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(host.TakeChanges(), "1001: [], 1001: [12pt]");
+    EXPECT_EQ(host.TakeChanges(), "1001: []");
+    EXPECT_EQ(Size().currentText(), QString());
 }
 
 TEST_F(CorePropertyBoxTest, AChoiceChangesTheRuleOnce) {

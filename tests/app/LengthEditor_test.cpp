@@ -120,14 +120,14 @@ class LengthEditorTest : public ValueControlTest {
                  control.ClearSelection();
              },
              "1020 [-1px]", "-1px"},
-            {"undo",
+            {"undo is the style sheet's",
              [](auto& control) {
                  Value(control).setFocus();
                  Value(control).end(false);
                  QTest::keyClick(&Value(control), Qt::Key_3);
                  QTest::keyClick(&Value(control), Qt::Key_Z, Qt::ControlModifier);
              },
-             "focus 1020 | 1020 [-123px] | 1020 [-12px]", "-12px"},
+             "focus 1020 | 1020 [-123px]", "-123px"},
             {"fill", [](auto& control) { control.SetValue(u"1em"); }, "", "1em"},
             {"empty by the program", [](auto& control) { control.Clear(nullptr); }, "", ""},
         };

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -18,6 +19,7 @@ namespace tintora {
 namespace {
 
 constexpr int Color = 1004;
+constexpr int FontWeight = 1002;
 constexpr int MarginTop = 1020;
 
 constexpr auto Sheet = "h1 {color: red;}\np {margin-top: 3px; color: blue;}\n";
@@ -90,12 +92,36 @@ TEST_F(PropertiesTest, UndoByTheKeyboardIsThatOfTheTextWhereverTheFocusIs) {
     field.setFocus();
     field.selectAll();
     QTest::keyClicks(&field, QStringLiteral("7"));
+    QTest::keyClick(&field, Qt::Key_Up);
     QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(SheetText(), Sheet);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Shown(MarginTop) == "3px"; }, 3000)) << Shown(MarginTop);
-    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keySequence(&field, Action("miERedo").shortcut());
     EXPECT_EQ(SheetText(), "h1 {color: red;}\np {margin-top: 7px; color: blue;}\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return Shown(MarginTop) == "7px"; }, 3000)) << Shown(MarginTop);
+}
+
+TEST_F(PropertiesTest, OnlyWhatIsStillBeingTypedIsUndoneInItsField) {
+    PutCaret(InHeading);
+    auto& weight = *Form().FindControl(FontWeight)->findChild<QComboBox*>();
+    weight.setFocus();
+    QTest::keyClick(&weight, Qt::Key_Down);
+    const std::string changed = SheetText();
+    ASSERT_NE(changed, Sheet);
+    weight.lineEdit()->selectAll();
+    QTest::keyClicks(&weight, QStringLiteral("bo"));
+    EXPECT_EQ(SheetText(), changed) << "typed words wait for Enter";
+    QTest::keyClick(&weight, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(SheetText(), changed);
+    EXPECT_FALSE(weight.currentText().startsWith(QStringLiteral("bo")));
+    weight.lineEdit()->selectAll();
+    QTest::keyClicks(&weight, QStringLiteral("bold"));
+    QTest::keyClick(&weight, Qt::Key_Return);
+    EXPECT_NE(SheetText().find("bold"), std::string::npos);
+    QTest::keyClick(&weight, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(SheetText(), changed);
+    QTest::keyClick(&weight, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(SheetText(), Sheet);
 }
 
 TEST_F(PropertiesTest, ThePaletteShowsTheDocumentInFrontOrNone) {

@@ -3,6 +3,7 @@
 #include "properties/qt/BadValueMark.h"
 #include "properties/qt/ChoiceModel.h"
 #include "properties/qt/FilteredField.h"
+#include "properties/qt/HistoryKeys.h"
 #include "text/qt/QtText.h"
 
 #include <QAbstractItemView>
@@ -169,6 +170,16 @@ QSize ChoiceBox::SizeFor(const QString& sample) const {
     constexpr int FieldMargins = 5;
     const QSize content(fontMetrics().horizontalAdvance(sample) + FieldMargins, std::max(fontMetrics().height(), 14));
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this);
+}
+
+void ChoiceBox::NoteTextWritten() {
+    if (isEditable())
+        lineEdit()->setModified(false);
+}
+
+bool ChoiceBox::event(QEvent* event) {
+    const bool isBeingTyped = isEditable() && lineEdit()->isModified();
+    return (isBeingTyped || !LeavesHistoryToTheText(*event)) && QComboBox::event(event);
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event) {

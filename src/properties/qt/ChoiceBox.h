@@ -47,6 +47,9 @@ class ChoiceBox : public QComboBox {
     void showPopup() override;
     void hidePopup() override;
 
+    /// What was typed has gone into the style sheet, so that to undo it is a matter of the style sheet.
+    void NoteTextWritten();
+
   Q_SIGNALS:
     /// The user has chosen the entry with the 0-based index, which may be the present one.
     void Chosen(int index);
@@ -64,6 +67,7 @@ class ChoiceBox : public QComboBox {
     void FocusHasGone();
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "properties/qt/BadValueMark.h"
 #include "properties/qt/ControlLayout.h"
+#include "properties/qt/HistoryKeys.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -78,6 +79,8 @@ FieldKey FilteredField::JudgeKey(QKeyEvent& event) const {
     }
     return FieldKey::Passes;
 }
+
+bool FilteredField::event(QEvent* event) { return !LeavesHistoryToTheText(*event) && QLineEdit::event(event); }
 
 void FilteredField::keyPressEvent(QKeyEvent* event) {
     const FieldKey key = JudgeKey(*event);

@@ -11,7 +11,8 @@ namespace tintora {
 /// whichever way it is typed in.
 ///
 /// Where the judge knows the codes of the clipboard, these are told and not acted on, whether they come by keys or by
-/// the menu of the field; then nothing comes into the field by dragging or by the middle button.
+/// the menu of the field; then nothing comes into the field by dragging or by the middle button. Undo and redo are left
+/// to the style sheet.
 class FilteredField final : public QLineEdit {
     Q_OBJECT
 
@@ -42,6 +43,7 @@ class FilteredField final : public QLineEdit {
     void MouseWasReleased();
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -17,7 +17,10 @@ KeywordEditor::KeywordEditor(int number, std::shared_ptr<KeywordChoice> choice, 
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(keywordValue_);
     connect(keywordValue_, &ChoiceBox::Chosen, this, [this](int index) { ChooseText(keywordValue_->EntryAt(index)); });
-    connect(keywordValue_, &ChoiceBox::Entered, this, [this] { ChooseText(keywordValue_->ShownText()); });
+    connect(keywordValue_, &ChoiceBox::Entered, this, [this] {
+        ChooseText(keywordValue_->ShownText());
+        keywordValue_->NoteTextWritten();
+    });
     connect(keywordValue_, &ChoiceBox::ListHasDroppedDown, this, &ValueControl::ListHasDroppedDown);
     connect(keywordValue_, &ChoiceBox::FocusHasCome, this, [this] { Q_EMIT PropertyHasFocus(PropertyName()); });
     connect(keywordValue_, &ChoiceBox::FocusHasGone, this, &ValueControl::PreviewIfDirty);

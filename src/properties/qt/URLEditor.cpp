@@ -49,7 +49,10 @@ URLEditor::URLEditor(int number, const ControlSurroundings& surroundings, QWidge
     urlField_->lineEdit()->installEventFilter(this);
     connect(locate_, &QToolButton::clicked, this, &URLEditor::LocateURL);
     connect(urlField_, &ChoiceBox::Chosen, this, [this](int index) { EnterText(urlField_->EntryAt(index)); });
-    connect(urlField_, &ChoiceBox::Typed, this, [this] { EnterText(urlField_->ShownText()); });
+    connect(urlField_, &ChoiceBox::Typed, this, [this] {
+        EnterText(urlField_->ShownText());
+        urlField_->NoteTextWritten();
+    });
     connect(urlField_, &ChoiceBox::FocusHasCome, this, [this] { Q_EMIT PropertyHasFocus(PropertyName()); });
     connect(urlField_, &ChoiceBox::FocusHasGone, this, &ValueControl::PreviewIfDirty);
 }

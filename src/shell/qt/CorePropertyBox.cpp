@@ -1,5 +1,7 @@
 #include "shell/qt/CorePropertyBox.h"
 
+#include "properties/qt/HistoryKeys.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -126,6 +128,8 @@ void CorePropertyBox::showPopup() {
     view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + margins));
     QComboBox::showPopup();
 }
+
+bool CorePropertyBox::event(QEvent* event) { return !LeavesHistoryToTheText(*event) && QComboBox::event(event); }
 
 void CorePropertyBox::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
