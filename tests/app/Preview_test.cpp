@@ -239,6 +239,13 @@ TEST_F(PreviewTest, OddNamesOfSheetsAndPagesAreNoObstacle) {
     EXPECT_EQ(TemporaryFiles(), QStringList());
 }
 
+TEST_F(PreviewTest, AWindowThatGoesUnclosedLeavesNoFilesEither) {
+    Open("h1 {color: red; }");
+    EXPECT_FALSE(TemporaryFiles().isEmpty());
+    window.reset();
+    EXPECT_EQ(TemporaryFiles(), QStringList());
+}
+
 /// Pages as preview documents.
 struct PagePreview {
     const char* what;

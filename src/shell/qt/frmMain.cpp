@@ -97,6 +97,8 @@ frmMain::~frmMain() {
     properties_->Close();
     delete documents_;
     properties_.reset();
+    // The window may go without having been closed.
+    previews_->Close();
     previews_.reset();
 }
 
