@@ -28,15 +28,16 @@ class PreviewController {
     void Start() { making_.Last().DeleteAll(); }
 
     /// Shows the document's text on the preview document, whether live preview is on or not.
-    void PreviewNow(const PreviewedDocument& document) { page_.Preview(document); }
+    void PreviewNow(const PreviewedDocument& document);
 
     /// Shows the declarations of the document's current statement on a paragraph.
-    void PreviewCurrentRule(const PreviewedDocument& document) { rule_.Preview(document); }
+    void PreviewCurrentRule(const PreviewedDocument& document);
 
     /// The document goes.
     void Forget(const PreviewedDocument& document);
 
-    /// The panes go, and the files with them.
+    /// The panes go, and the files with them. From now on nothing is previewed, though the timers of a document may
+    /// still ask for it.
     void Close();
 
     /// The pane "dwPreview", and the pane "dwPreviewRule".
@@ -50,6 +51,7 @@ class PreviewController {
     PreviewMaking making_;
     PageTurns page_;
     PageTurns rule_;
+    bool isClosed_ = false;
 };
 
 }  // namespace tintora

@@ -347,6 +347,14 @@ TEST_F(PreviewControllerTest, ClosingDeletesEverything) {
     EXPECT_EQ(pane_.TakeCalls(), Calls()) << "the panes may have gone already";
 }
 
+TEST_F(PreviewControllerTest, AfterClosingNothingIsPreviewed) {
+    previews_.Close();
+    previews_.PreviewNow(document_);
+    previews_.PreviewCurrentRule(document_);
+    EXPECT_TRUE(TemporaryFilesLeft().empty()) << "a timer that was running when the window closed leaves no file";
+    EXPECT_EQ(Stored(setting::LastPreviewHTMLFile), u"");
+}
+
 TEST_F(PreviewControllerTest, ClosingLeavesWhatIsLockedForTheNextTime) {
     previews_.PreviewNow(document_);
     {
