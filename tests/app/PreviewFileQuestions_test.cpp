@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
@@ -19,7 +20,7 @@ class PreviewFileQuestionsTest : public test::PreviewDialogTest {
   protected:
     PreviewFileQuestionsTest() {
         program_ = MakeProgram("opt/my browser");
-        plain_ = files_.Write("opt/plain", "#!/bin/sh\n");
+        plain_ = files_.Write("opt/<b>plain", "#!/bin/sh\n");
         std::filesystem::create_directory(files_.FilePath("opt/folder"));
     }
 
@@ -103,7 +104,7 @@ TEST_F(PreviewFileQuestionsTest, TakeProgramsAlone) {
         QTimer::singleShot(0, &dialog, [&] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
-            isTold = box->text().contains(ToQString(plain_));
+            isTold = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->text().contains("&lt;b&gt;plain");
             box->accept();
         });
         Enter(dialog, plain_);

@@ -1,6 +1,7 @@
 #include "preview/qt/FilesWanted.h"
 
 #include "preview/Programs.h"
+#include "preview/qt/PathList.h"
 #include "text/qt/QtText.h"
 
 #include <QFileDialog>
@@ -45,7 +46,7 @@ class ProgramDialog final : public QFileDialog {
         const QStringList files = selectedFiles();
         const auto other = std::ranges::find_if(files, [](const QString& path) { return !IsProgram(ToText(path)); });
         if (result == QDialog::Accepted && other != files.end())
-            QMessageBox::warning(this, windowTitle(), QStringLiteral("%1 isn't a program.").arg(*other));
+            QMessageBox::warning(this, windowTitle(), PathToolTip(QStringLiteral("%1 isn't a program.").arg(*other)));
         else
             QFileDialog::done(result);
     }

@@ -61,7 +61,10 @@ void MessageBoxes::ShowExclamation(TextView message) {
 }
 
 void MessageBoxes::ShowWriteFailure(TextView message) {
-    QMessageBox::critical(&window_, QStringLiteral("Tintora"), ToQString(message));
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Tintora"), ToQString(message), QMessageBox::Ok, &window_);
+    // The name of a file is no markup.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 std::optional<Text> MessageBoxes::AskSavePath(TextView title, TextView proposedName, TextView folder) {
