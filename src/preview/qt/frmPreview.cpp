@@ -1,7 +1,9 @@
 #include "preview/qt/frmPreview.h"
 
+#include "linking/TextFiles.h"
 #include "preview/qt/BrowserActions.h"
 #include "preview/qt/LocalFiles.h"
+#include "preview/qt/PathList.h"
 #include "text/qt/QtText.h"
 
 #include <QCheckBox>
@@ -12,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMimeData>
+#include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
@@ -90,6 +93,9 @@ void frmPreview::SetUpToolbar() {
     auto* const button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(browser));
     button->setMenu(browserMenu_);
     button->setPopupMode(QToolButton::MenuButtonPopup);
+    auto* const opening = new QShortcut(Qt::Key_Down, button);
+    opening->setContext(Qt::WidgetShortcut);
+    connect(opening, &QShortcut::activated, button, &QToolButton::showMenu);
 }
 
 QAction* frmPreview::AddTool(const QString& key, const QString& text, const QString& toolTip, const QString& iconName) {
@@ -112,6 +118,12 @@ void frmPreview::Lay() {
     rows->setSpacing(0);
     rows->addLayout(bar);
     rows->addWidget(browser_, 1);
+    QWidget* last = chooser_;
+    for (QAction* const tool : toolbar_->actions()) {
+        setTabOrder(last, toolbar_->widgetForAction(tool));
+        last = toolbar_->widgetForAction(tool);
+    }
+    setTabOrder(last, livePreview_);
 }
 
 void frmPreview::SetInView(bool isInView) { browser_->setVisible(isInView); }
@@ -123,7 +135,7 @@ void frmPreview::SetUpPreviewFiles() {
     for (qsizetype index = 0; index < names.size(); ++index) {
         const QString path = ToQString(paths[static_cast<std::size_t>(index)]);
         chooser_->addItem(names[index], path);
-        chooser_->setItemData(chooser_->count() - 1, path, Qt::ToolTipRole);
+        chooser_->setItemData(chooser_->count() - 1, PathToolTip(path), Qt::ToolTipRole);
     }
     const QString current = ToQString(documents_.GetPreviewFile());
     chooser_->setCurrentIndex(documents_.IndexOfPreviewFile());
@@ -161,13 +173,18 @@ void frmPreview::ClearCurrent() {
 void frmPreview::DropDocuments(const QStringList& paths) {
     Texts documents;
     std::transform(paths.begin(), paths.end(), std::back_inserter(documents), ToText);
+    // A folder is no document.
+    std::erase_if(documents, [](const Text& path) { return !FileExists(path); });
+    if (documents.empty())
+        return;
     documents_.DropDocuments(documents);
     SetUpPreviewFiles();
     Q_EMIT PreviewNowWanted();
 }
 
 void frmPreview::dragEnterEvent(QDragEnterEvent* event) {
-    if (!LocalFiles(*event->mimeData()).isEmpty())
+    // What is dragged out of the page is no gift to it, though the page lets it pass to here.
+    if (event->source() == nullptr && !LocalFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 

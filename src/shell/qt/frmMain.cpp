@@ -200,7 +200,8 @@ void frmMain::changeEvent(QEvent* event) {
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls())
+    // A picture that is dragged out of a preview isn't to be edited.
+    if (event->source() == nullptr && event->mimeData()->hasUrls())
         event->acceptProposedAction();
 }
 
