@@ -1,8 +1,10 @@
 #include "PreviewFixture.h"
 
 #include <QMimeData>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeWidget>
 
 namespace tintora {
 namespace {
@@ -21,6 +23,25 @@ TEST_F(PreviewPaneTest, ADroppedFolderIsNoPage) {
     EXPECT_EQ(Chooser().currentText(), "default.html");
     EXPECT_EQ(Settings(store).Get(setting::AllPreviewFiles), u"");
     EXPECT_EQ(Settings(store).Get(setting::PreviewFile), u"");
+}
+
+TEST_F(PreviewPaneTest, APageThatIsTakenFromTheListIsSeenNoMore) {
+    Open("h1 {color: red}");
+    window->SetLivePreview(false);
+    PreviewDocuments(store, ToText(folder.filePath("program"))).ChooseDocument(MakeFile("a.html", "<h1>A</h1>"));
+    Form().SetUpPreviewFiles();
+    window->PreviewNow();
+    const auto heading = [&] { return Ask(Field(), QStringLiteral("document.querySelector('h1').innerText")); };
+    ASSERT_TRUE(WaitFor([&] { return heading() == "A"; }));
+    QTimer::singleShot(0, window.get(), [] {
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        dialog->findChild<QTreeWidget*>(QStringLiteral("PreviewDocuments"))->selectAll();
+        dialog->findChild<QPushButton*>(QStringLiteral("Remove"))->click();
+        dialog->findChild<QPushButton*>(QStringLiteral("OKButton"))->click();
+    });
+    Action("miPManageDocuments").trigger();
+    EXPECT_TRUE(WaitFor([&] { return heading() == "Default"; }));
+    EXPECT_EQ(Chooser().currentText(), "default.html");
 }
 
 TEST_F(PreviewPaneTest, ThePaneIsWordedAndLaidOut) {

@@ -98,8 +98,14 @@ void WindowPreviews::PreviewInKey(const QString& key) {
 }
 
 void WindowPreviews::ManagePreviewDocuments() {
-    if (dlgPreviewDocuments(previews_.Documents(), questions_, &window_).ManagePreviewDocuments())
-        form_->SetUpPreviewFiles();
+    const Text before = previews_.Documents().GetPreviewFile();
+    if (!dlgPreviewDocuments(previews_.Documents(), questions_, &window_).ManagePreviewDocuments())
+        return;
+    form_->SetUpPreviewFiles();
+    // The page in use may be on the list no more.
+    const DocumentPreviews* const active = surroundings_.active();
+    if (active != nullptr && previews_.Documents().GetPreviewFile() != before)
+        previews_.PreviewNow(active->Document());
 }
 
 void WindowPreviews::ManagePreviewBrowsers() {
