@@ -8,7 +8,9 @@
 #include "text/qt/QtText.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
@@ -44,6 +46,7 @@ class InstancesTest : public testing::Test {
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
         environment.insert(QStringLiteral("XDG_STATE_HOME"), home.filePath(QStringLiteral("state")));
         environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("TMPDIR"), home.path());
         // The question about the default editor would wait for an answer.
         environment.insert(QStringLiteral("CI"), QStringLiteral("true"));
         environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
@@ -86,6 +89,28 @@ TEST_F(InstancesTest, TheFirstStaysAndASecondHandsItsFileOverAndEnds) {
     EXPECT_EQ(first->state(), QProcess::Running);
     first->terminate();
     ASSERT_TRUE(WaitForEnd(*first));
+}
+
+TEST_F(InstancesTest, OneThatIsAskedToEndLeavesNoFilesOfPreviews) {
+    QDir(home.path()).mkdir(QStringLiteral("site"));
+    QFile file(home.filePath(QStringLiteral("site/a.css")));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    const auto left = [&] {
+        QStringList names;
+        for (QDirIterator files(home.path(), {QStringLiteral("ktTemp*")}, QDir::Files, QDirIterator::Subdirectories);
+             files.hasNext();)
+            names.append(files.next());
+        return names;
+    };
+    const auto first = Start({QStringLiteral("site/a.css")});
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QFile::exists(InstanceSocketPath(InstanceFolder())); }, MillisecondsToEnd));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !left().isEmpty(); }, MillisecondsToEnd));
+    first->terminate();
+    ASSERT_TRUE(WaitForEnd(*first));
+    EXPECT_EQ(first->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(first->exitCode(), 128 + SIGTERM);
+    EXPECT_EQ(left(), QStringList());
 }
 
 TEST_F(InstancesTest, ThePathIsMadeAbsoluteWhereTheSecondWasStarted) {

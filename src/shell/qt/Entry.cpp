@@ -9,6 +9,7 @@
 #include "shell/CommandLine.h"
 #include "shell/qt/Application.h"
 #include "shell/qt/ApplicationFolder.h"
+#include "shell/qt/EndingSignals.h"
 #include "shell/qt/FirstPaint.h"
 #include "shell/qt/InstanceLock.h"
 #include "shell/qt/MessageHook.h"
@@ -29,6 +30,8 @@ namespace {
 
 constexpr int ExitUnanswered = 1;
 constexpr int MillisecondsToSettle = 500;
+/// What a shell gives as the exit code of a program that a signal has ended, without the signal's number.
+constexpr int ExitBySignal = 128;
 
 Texts Arguments(int argc, char** argv) {
     Texts arguments;
@@ -75,6 +78,11 @@ int RunFirstInstance(Application& application, SettingsStore& store, TextView fi
                     .previewFolders = {ToText(folder.Path()), ToText(QDir::tempPath())}});
     application.SetFailureHandlers([&](const OverflowFailure&) { window.ReportOverflow(); },
                                    [&](const QString& what) { window.ReportFault(what); });
+    // Nobody may be there to answer questions. Unsaved text is offered at the next start.
+    const EndingSignals ending([&](int signal) {
+        window.KeepRecoveryCopies();
+        Application::exit(ExitBySignal + signal);
+    });
     const FirstPaint firstPaint(window);
     window.LoadStep(file);
     window.show();

@@ -50,6 +50,7 @@ WindowPreviews::WindowPreviews(Surroundings surroundings, QWidget& window)
 WindowPreviews::~WindowPreviews() {
     delete form_;
     delete ruleForm_;
+    previews_.Close();
 }
 
 void WindowPreviews::Connect() {

@@ -46,7 +46,7 @@ class WindowPreviews : public QObject {
     };
 
     WindowPreviews(Surroundings surroundings, QWidget& window);
-    /// The panes go first, whoever owns them.
+    /// The panes go first, whoever owns them. No file of a preview is left, also where the window was never closed.
     ~WindowPreviews() override;
 
     [[nodiscard]] PreviewController& Controller() noexcept { return previews_; }
