@@ -97,8 +97,6 @@ frmMain::~frmMain() {
     properties_->Close();
     delete documents_;
     properties_.reset();
-    // The window may go without having been closed.
-    previews_->Close();
     previews_.reset();
 }
 
