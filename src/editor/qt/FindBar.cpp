@@ -72,7 +72,7 @@ void FindBar::SetUpFields() {
     auto* const findRow = new QHBoxLayout;
     findRow->setSpacing(Gap);
     rows->addLayout(findRow);
-    auto* const findLabel = new QLabel(QStringLiteral("&Find"), this);
+    auto* const findLabel = new QLabel(QStringLiteral("Fi&nd"), this);
     findLabel->setBuddy(find_);
     find_->setAccessibleName(QStringLiteral("Find"));
     find_->setClearButtonEnabled(true);
