@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 namespace tintora {
 
 /// The flags of the property palette: one set for the palette and all its editors, also for those that are still to be
@@ -12,7 +14,10 @@ struct PaletteFlags {
     bool ChangingProperty = false;
 
     /// A dialog of the palette is open: its editor must stay.
-    bool IsDialogOpen = false;
+    [[nodiscard]] bool IsDialogOpen() const noexcept { return *isDialogOpen; }
+
+    /// The palette may go while a dialog is open, and the dialog ends behind it.
+    std::shared_ptr<bool> isDialogOpen = std::make_shared<bool>(false);
 };
 
 /// Sets a flag for as long as it lives; then the flag is as before, also where an exception passes.
@@ -31,6 +36,16 @@ class FlagScope {
   private:
     bool& flag_;
     bool before_;
+};
+
+/// A dialog of the palette is open for as long as it lives.
+class OpenDialog {
+  public:
+    explicit OpenDialog(const PaletteFlags& flags) : flag_(flags.isDialogOpen), scope_(*flag_) {}
+
+  private:
+    std::shared_ptr<bool> flag_;
+    FlagScope scope_;
 };
 
 }  // namespace tintora

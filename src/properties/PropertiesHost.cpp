@@ -32,7 +32,7 @@ void PropertiesHost::SelectPropertyinText(TextView name) {
 }
 
 void PropertiesHost::ShowEditor(int number) {
-    if (surroundings_.flags.ChangingProperty || surroundings_.flags.IsDialogOpen)
+    if (surroundings_.flags.ChangingProperty || surroundings_.flags.IsDialogOpen())
         return;
     if (current_) {
         if (IsShownAlready(FindGroupEditor(*current_)->className, number))

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <QMouseEvent>
+#include <stdexcept>
 
 namespace tintora::test {
 namespace {
@@ -363,11 +364,11 @@ TEST_F(ColorEditorTest, TheChooserStartsAtTheColorAndItsAnswerIsReportedOnce) {
     ValueControl& control = Make(Color);
     control.SetValue(u"gray");
     color = QColor(16, 0, 255);
-    whileAsked = [&] { EXPECT_TRUE(flags.IsDialogOpen); };
+    whileAsked = [&] { EXPECT_TRUE(flags.IsDialogOpen()); };
     QTest::mouseClick(&Swatch(control), Qt::LeftButton);
     EXPECT_EQ(Joined(questions), "color Choose a Color #999999");
     EXPECT_EQ(Take(), "1004 [#1000ff]");
-    EXPECT_FALSE(flags.IsDialogOpen);
+    EXPECT_FALSE(flags.IsDialogOpen());
     EXPECT_FALSE(control.Dirty());
     control.SetValue(u"rgb(1, 2, 3)");
     Swatch(control).setFocus();
@@ -382,6 +383,17 @@ TEST_F(ColorEditorTest, ACancelledChooserChangesNothing) {
     EXPECT_EQ(questions.size(), 1U);
     EXPECT_EQ(Take(), "");
     EXPECT_EQ(control.GetValue(), u"red");
+}
+
+TEST_F(ColorEditorTest, AChooserThatFailsIsOneThatIsCancelled) {
+    ValueControl& control = Make(Color);
+    control.SetValue(u"red");
+    color = QColor(1, 2, 3);
+    whileAsked = [] { throw std::runtime_error("no dialogue"); };
+    EXPECT_NO_THROW(dynamic_cast<ColorEditor&>(control).EditColorWithDialogGM());
+    EXPECT_EQ(Take(), "");
+    EXPECT_EQ(control.GetValue(), u"red");
+    EXPECT_FALSE(flags.IsDialogOpen());
 }
 
 TEST_F(ColorEditorTest, TheAnswerOfAChooserIsDroppedWhenItComesTooLate) {
@@ -405,7 +417,7 @@ TEST_F(ColorEditorTest, TheAnswerOfAChooserIsDroppedWhenItComesTooLate) {
     whileAsked = [&] { delete control; };
     dynamic_cast<ColorEditor&>(*control).EditColorWithDialogGM();
     EXPECT_EQ(Take(), "");
-    EXPECT_FALSE(flags.IsDialogOpen);
+    EXPECT_FALSE(flags.IsDialogOpen());
 }
 
 TEST_F(ColorEditorTest, TheSwatchHasTheColorsOfTheDesktop) {

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <functional>
+#include <memory>
 
 // The dialog that composes a list of fonts, driven as its user does it.
 
@@ -192,6 +193,16 @@ TEST_F(MoreFontsDialogTest, TheKeyboardIsEnough) {
         QTest::keyClick(&Current(), Qt::Key_Return);
     });
     EXPECT_EQ(answer, Text(u"a, b"));
+}
+
+TEST(MoreFonts, AWindowThatGoesMeanwhileIsNoAnswer) {
+    auto window = std::make_unique<QWidget>();
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_NE(qobject_cast<MoreFontsDialog*>(QApplication::activeModalWidget()), nullptr);
+        window.reset();
+    });
+    EXPECT_EQ(AskFontsByDialog(u"serif", window.get()), std::nullopt);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(MoreFontsDialogTest, TheValueCantBeTypedInto) {

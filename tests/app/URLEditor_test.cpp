@@ -12,6 +12,7 @@ namespace tintora::test {
 namespace {
 
 constexpr int BackgroundImage = 1003;
+constexpr int ListStyleImage = 1093;
 
 struct FilterCase {
     const char16_t* filter;
@@ -137,11 +138,11 @@ TEST_F(URLEditorTest, TypingAWordOfTheListKeepsTheCaret) {
 TEST_F(URLEditorTest, AFileIsLocatedRelativeToTheDocumentInFront) {
     ValueControl& control = Make(BackgroundImage);
     file = "/site/img/a.gif";
-    whileAsked = [&] { EXPECT_TRUE(flags.IsDialogOpen); };
+    whileAsked = [&] { EXPECT_TRUE(flags.IsDialogOpen()); };
     QTest::mouseClick(&Locate(control), Qt::LeftButton);
     EXPECT_EQ(Joined(questions), "Locate: GIF (*.gif);;JPEG (*.jpg);;PNG (*.png);;All Files (*)");
     EXPECT_EQ(Take(), "1003 [url(img/a.gif)]");
-    EXPECT_FALSE(flags.IsDialogOpen);
+    EXPECT_FALSE(flags.IsDialogOpen());
     EXPECT_EQ(EntriesOf(Address(control)).last(), "img/a.gif");
     QTest::mouseClick(&Locate(control), Qt::LeftButton);
     EXPECT_EQ(EntriesOf(Address(control)).count("img/a.gif"), 1);
@@ -163,7 +164,7 @@ TEST_F(URLEditorTest, ALocatedFileThatComesTooLateIsDropped) {
         QTest::mouseClick(&Locate(*control), Qt::LeftButton);
         EXPECT_EQ(Take(), "");
         EXPECT_EQ(control->GetValue(), u"");
-        EXPECT_FALSE(flags.IsDialogOpen);
+        EXPECT_FALSE(flags.IsDialogOpen());
     }
     documents.document = &document;
     whileAsked = [&] { delete control; };
@@ -194,13 +195,16 @@ TEST_F(URLEditorTest, TakesTheFirstFileThatIsDroppedIfItIsAnImage) {
 }
 
 TEST_F(URLEditorTest, ADroppedFileIsRelativeToTheDocumentThatFilledTheControl) {
-    ValueControl& control = Make(BackgroundImage);
-    document.file = u"/elsewhere/other.css";
-    DropOn(control, {"file:///site/a.gif"});
-    EXPECT_EQ(Take(), "1003 [url(a.gif)]");
-    control.Clear(&document);
-    DropOn(control, {"file:///site/a.gif"});
-    EXPECT_EQ(Take(), "1003 [url(../site/a.gif)]");
+    for (const auto& [number, reported] : {std::pair(BackgroundImage, "1003"), {ListStyleImage, "1093"}}) {
+        document.file = u"/site/style.css";
+        ValueControl& control = Make(number);
+        document.file = u"/elsewhere/other.css";
+        DropOn(control, {"file:///site/a.gif"});
+        EXPECT_EQ(Take(), reported + std::string(" [url(a.gif)]"));
+        control.Clear(&document);
+        DropOn(control, {"file:///site/a.gif"});
+        EXPECT_EQ(Take(), reported + std::string(" [url(../site/a.gif)]"));
+    }
 }
 
 TEST_F(URLEditorTest, TheClipboardIsForTheText) {

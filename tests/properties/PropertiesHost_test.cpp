@@ -6,6 +6,7 @@
 #include "text/Narrowing.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <stdexcept>
 
 namespace tintora::test {
@@ -180,7 +181,7 @@ TEST(PropertiesHost, AnOpenDialogKeepsItsEditor) {
     palette.host.ShowEditor(0);
     palette.calls.clear();
     {
-        const FlagScope dialog(palette.flags.IsDialogOpen);
+        const OpenDialog dialog(palette.flags);
         palette.host.SelectPropertyinText(u"margin");
         EXPECT_EQ(palette.TakeCalls(), "Warn 1083 | Select 1083");
         EXPECT_EQ(palette.host.GetCurrentEditor(), 0);
@@ -232,6 +233,18 @@ TEST(PropertiesHost, AFlagIsAsBeforeAlsoWhereAnExceptionPasses) {
         kept.Keep();
     }
     EXPECT_TRUE(flag);
+}
+
+TEST(PropertiesHost, ADialogMayOutlastThePalette) {
+    auto flags = std::make_unique<PaletteFlags>();
+    const std::shared_ptr<bool> isOpen = flags->isDialogOpen;
+    {
+        const OpenDialog dialog(*flags);
+        EXPECT_TRUE(flags->IsDialogOpen());
+        flags.reset();
+        EXPECT_TRUE(*isOpen);
+    }
+    EXPECT_FALSE(*isOpen);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QStackedWidget>
+#include <exception>
 #include <utility>
 
 namespace tintora {
@@ -189,13 +190,15 @@ void ColorEditor::EditColorWithDialogGM() {
     const PresentRule rule(Surroundings().documents);
     const QPointer<ColorEditor> self(this);
     std::optional<QColor> color;
-    {
-        const FlagScope isOpen(Surroundings().flags.IsDialogOpen);
+    try {
+        const OpenDialog isOpen(Surroundings().flags);
         // The control may go while the dialogue is open.
         const AskColor ask = Surroundings().askColor;
         color = ask({QStringLiteral("Choose a Color"), DisplayColor(ColorValueFromText(GetValue()), palette()),
                      ColorsOf(Surroundings().documents.GetActiveDocument(), palette())},
                     this);
+    } catch (const std::exception&) {
+        return;
     }
     if (!color || self.isNull() || !rule.IsStillInFront())
         return;

@@ -46,7 +46,7 @@ class ColorEditor final : public ValueControl {
     void ShowState();
 
     /// Has the user choose a colour in the chooser. The answer counts only if control, document and rule are the same
-    /// then.
+    /// then; a chooser that fails is one that was cancelled.
     void EditColorWithDialogGM();
 
   protected:

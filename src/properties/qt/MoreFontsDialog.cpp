@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -62,7 +63,9 @@ MoreFontsDialog::MoreFontsDialog(const Texts& installed, QWidget* parent)
 std::optional<Text> MoreFontsDialog::EditFonts(TextView family) {
     fonts_.EditFonts(family);
     SetUpCurrentFonts();
-    return exec() == Accepted ? std::optional(FamilyText()) : std::nullopt;
+    const QPointer<MoreFontsDialog> self(this);
+    const int answer = exec();
+    return !self.isNull() && answer == Accepted ? std::optional(FamilyText()) : std::nullopt;
 }
 
 void MoreFontsDialog::SetUpFontSets() {
@@ -230,7 +233,12 @@ Texts InstalledFonts(const QStringList& families) {
 }
 
 std::optional<Text> AskFontsByDialog(TextView family, QWidget* parent) {
-    return MoreFontsDialog(InstalledFonts(QFontDatabase::families()), parent->window()).EditFonts(family);
+    // The parent may go while the dialog is open, and the dialog with it.
+    const QPointer<MoreFontsDialog> dialog =
+        new MoreFontsDialog(InstalledFonts(QFontDatabase::families()), parent->window());
+    const std::optional<Text> answer = dialog->EditFonts(family);
+    delete dialog;
+    return answer;
 }
 
 }  // namespace tintora

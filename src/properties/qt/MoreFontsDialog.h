@@ -25,7 +25,8 @@ class MoreFontsDialog : public QDialog {
     /// `installed` are the fonts of this computer.
     MoreFontsDialog(const Texts& installed, QWidget* parent);
 
-    /// Begins with a value and shows itself until it is answered; gives the new value, or nothing if it is cancelled.
+    /// Begins with a value and shows itself until it is answered; gives the new value, or nothing if it is cancelled or
+    /// goes with its parent.
     [[nodiscard]] std::optional<Text> EditFonts(TextView family);
 
     /// The value as it is composed now.

@@ -8,6 +8,7 @@
 #include "properties/qt/ValueControl.h"
 #include "text/qt/QtText.h"
 
+#include <QPointer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -50,12 +51,13 @@ void TextStylePropertiesEditor::EnabledChanged(bool isEnabled) { moreFonts_->set
 void TextStylePropertiesEditor::EditMoreFonts() {
     const ControlSurroundings& surroundings = Surroundings();
     const PresentRule rule(surroundings.documents);
+    const QPointer<TextStylePropertiesEditor> self(this);
     std::optional<Text> fonts;
     {
-        const FlagScope dialogOpen(surroundings.flags.IsDialogOpen);
+        const OpenDialog isOpen(surroundings.flags);
         fonts = AskFontsByDialog(GetValue(FontFamily), window());
     }
-    if (!fonts || !rule.IsStillInFront())
+    if (!fonts || self.isNull() || !rule.IsStillInFront())
         return;
     PropertyHasChanged(*fonts, FontFamily);
     {

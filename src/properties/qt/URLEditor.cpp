@@ -122,7 +122,7 @@ void URLEditor::LocateURL() {
     const QPointer<URLEditor> self(this);
     QString path;
     try {
-        const FlagScope isOpen(Surroundings().flags.IsDialogOpen);
+        const OpenDialog isOpen(Surroundings().flags);
         // The control may go while the dialogue is open.
         const AskFile ask = Surroundings().askFile;
         path = ask(QStringLiteral("Locate"), ToolkitFilter(field_.Filter()), this);
