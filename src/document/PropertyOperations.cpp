@@ -86,6 +86,8 @@ void ktStyleSheetWindow::ChangeCurrentProperty(TextView name, TextView value) {
 void ktStyleSheetWindow::ChangeCurrentProperties(const DeclarationChanges& changes) {
     if (changes.empty())
         return;
+    for (const DeclarationChange& change : changes)
+        static_cast<void>(NarrowLength(change.value));
     {
         const UndoStep step(textEditor_.Buffer());
         for (const DeclarationChange& change : changes)
@@ -119,6 +121,7 @@ void ktStyleSheetWindow::ChangeExistingProperty(const FoundProperty& found, Text
         return;
     // One blank is taken to follow the colon: where it is missing, the character behind the value goes.
     const auto behindColon = static_cast<int>(colon) + 1;
+    static_cast<void>(Narrow(static_cast<long long>(text.size() - old.size() + value.size())));
     ReplaceText(u" " + Text(value), behindColon, behindColon + static_cast<int>(old.size()) + 1);
     const int caret = behindColon + static_cast<int>(value.size()) + 1;
     SetSelection(caret, caret);
@@ -134,8 +137,10 @@ void ktStyleSheetWindow::AddProperty(const FoundProperty& place, TextView name, 
     }
     const char16_t last = UnitAt(text, start);
     const bool isClosed = last == u';' || last == u'{' || (last == u'/' && UnitAt(text, start - 1) == u'*');
-    const Text declaration = GetPropertySeparator(settings_) + Text(name) + u": " + Text(value) + u";";
-    ReplaceText(isClosed ? declaration : u";" + declaration, start, end);
+    const Text declaration =
+        (isClosed ? Text() : u";") + GetPropertySeparator(settings_) + Text(name) + u": " + Text(value) + u";";
+    static_cast<void>(Narrow(static_cast<long long>(text.size() + declaration.size()) - (end - start)));
+    ReplaceText(declaration, start, end);
 }
 
 void ktStyleSheetWindow::RemovePropertyFromCurrentStatement(TextView name) {

@@ -277,6 +277,7 @@ class ktStyleSheetWindow final : public StyleSheetTextSource, public EditorParen
 
     // Properties of the current statement.
 
+    /// Throws `OverflowFailure` if the text would grow beyond the length limit, and it isn't changed then.
     void ChangeCurrentProperty(TextView name, TextView value);
 
     /// Several changes, one after another, as one: one step to undo, and one preview. No changes do nothing.

@@ -1,4 +1,5 @@
 #include "DocumentRecorders.h"
+#include "text/Narrowing.h"
 
 #include <gtest/gtest.h>
 
@@ -172,6 +173,20 @@ TEST_F(Properties, APropertyIsSelectedWithItsSemicolon) {
     RunCases(SelectedProperties, [](ktStyleSheetWindow& window, const ChangeCase& row) {
         window.SelectPropertyInCurrentStatement(row.name);
     });
+}
+
+TEST_F(Properties, AValueBeyondTheLengthLimitChangesNothing) {
+    const Text rule = u"p {top: 1px;}";
+    for (const TextView name : {u"top", u"left"}) {
+        for (const std::size_t length : {MaximumTextLength - rule.size() + 4, MaximumTextLength, 1'000'000UL}) {
+            window.SetText(rule);
+            window.SetSelection(5, 5);
+            EXPECT_THROW(window.ChangeCurrentProperty(name, Text(length, u'x')), OverflowFailure);
+            EXPECT_EQ(window.GetText(), rule);
+        }
+        window.ChangeCurrentProperty(name, Text(32'000, u'x'));
+        EXPECT_GT(window.GetText().size(), 32'000U);
+    }
 }
 
 TEST_F(Properties, EachChangeIsOneStepToUndo) {
