@@ -190,6 +190,9 @@ void ktStyleSheetWindow::FollowChangeOfPalette() {
         return;
     }
     selectionChangedDelay_->Stop();
+    // Its list of properties follows. Its controls, which are in the user's hands, take nothing now.
+    if (properties_.IsOpen())
+        properties_.SetProperties(styleSheet_.GetPropertiesFromSelection(offset));
     BringPalettesTo(offset, number);
 }
 

@@ -157,7 +157,7 @@ TEST_F(PaletteUpdates, AChangeByThePaletteIsFollowedAtOnceByAllOthers) {
     window.ChangeCurrentProperty(u"left", u"5px");
     properties.isWriting = false;
     EXPECT_EQ(TakeCalls(), (Calls{"Dirty", "CacheStatements", "EnableToolbar", "SetUpToolbar {top: 0;\nleft: 5px;}",
-                                  "SelectStatement 2"}));
+                                  "SetProperties {top: 0;\nleft: 5px;}", "SelectStatement 2"}));
     EXPECT_FALSE(IsRunning(u"SelectionChangedDelay"));
     Wait(1499);
     EXPECT_EQ(TakeCalls(), Calls{"CacheStatements"});
@@ -174,6 +174,8 @@ TEST_F(PaletteUpdates, NothingRefillsThePaletteAfterItsOwnChanges) {
             properties.isWriting = true;
             window.ChangeCurrentProperty(u"top", Text(static_cast<std::size_t>(count % 7), u'1') + u"px");
             properties.isWriting = false;
+            // While it writes it takes the body for its list alone.
+            std::erase_if(calls, [](const std::string& call) { return call.starts_with("SetProperties"); });
             Wait(100);
         }
         EXPECT_FALSE(WasPreviewed());
