@@ -1,11 +1,14 @@
 #include "properties/GroupEditor.h"
 
+#include "language/Declarations.h"
+#include "language/Vocabulary.h"
 #include "properties/ChangesOfText.h"
 #include "properties/ContentFields.h"
 #include "properties/ControlRows.h"
 #include "properties/DisplaySections.h"
 #include "properties/GroupEditors.h"
 #include "settings/Settings.h"
+#include "text/LowerCase.h"
 
 #include <algorithm>
 
@@ -28,6 +31,18 @@ void WriteChanges(EditedDocument& document, const DeclarationChanges& changes) {
     document.ChangeCurrentProperties(changes);
 }
 
+/// The numbers of the borders of which single parts are declared.
+std::set<int> BordersWithLonghands(const Texts& declarations) {
+    std::set<int> borders;
+    for (const Text& declaration : declarations) {
+        const Text name = LowerCase(GetDeclarationName(declaration));
+        const ControlRow* const row = RowOfDeclaration(group_editor::Border, name);
+        if (row != nullptr && PropertyNameFromNumber(row->number) != name)
+            borders.insert(row->number);
+    }
+    return borders;
+}
+
 }  // namespace
 
 GroupEditor::GroupEditor(int number, const Surroundings& surroundings) : number_(number), surroundings_(surroundings) {}
@@ -43,8 +58,10 @@ void GroupEditor::SetProperties(const Texts& declarations) {
         state_ = std::move(reading.state);
         for (const PropertyValue& value : reading.values)
             surroundings_.controls.SetValue(value.number, value.value);
-        if (number_ == group_editor::Border)
+        if (number_ == group_editor::Border) {
+            bordersWithLonghands_ = BordersWithLonghands(declarations);
             ShowBorderSections(reading.values);
+        }
     }
     UpdateEditors();
 }
@@ -62,8 +79,15 @@ void GroupEditor::PropertyHasChanged(TextView value, int number) {
         const auto valueOf = [this](int asked) { return surroundings_.controls.GetValue(asked); };
         WriteChanges(*document, ChangesOfText(number_, state_, number, value, valueOf));
     }
+    UpdateAfterChange(value, number);
+}
+
+void GroupEditor::UpdateAfterChange(TextView value, int number) {
     if (number_ != group_editor::DisplayType || number == Display)
         UpdateEditors();
+    const ControlRow* const row = PlaceOfFocus(number_, number).row;
+    if (number_ == group_editor::Border && row != nullptr)
+        surroundings_.controls.MarkSection(row->section, !value.empty() || bordersWithLonghands_.contains(number));
 }
 
 void GroupEditor::UpdateEditors() {

@@ -6,6 +6,8 @@
 #include "settings/SettingsStore.h"
 #include "text/Text.h"
 
+#include <set>
+
 namespace tintora {
 
 /// The two roads of a group editor: from the text to its controls, and from a control to the text.
@@ -29,7 +31,8 @@ class GroupEditor {
 
     [[nodiscard]] int Number() const noexcept { return number_; }
 
-    /// Shows declaration texts. During a change of the text it does nothing.
+    /// Shows declaration texts. During a change of the text it does nothing. Of the border's sides those are marked
+    /// that have a declaration; a change of a side keeps its mark true.
     void SetProperties(const Texts& declarations);
 
     /// A control reports a value. While the controls are filled, and during another change, it does nothing. Whatever
@@ -57,10 +60,14 @@ class GroupEditor {
   private:
     void ShowBorderSections(const PropertyValues& values);
     void ShowDisplaySection();
+    void UpdateAfterChange(TextView value, int number);
 
     int number_;
     Surroundings surroundings_;
     EditorState state_;
+
+    /// The borders that have declarations beside the one that is written.
+    std::set<int> bordersWithLonghands_;
 };
 
 }  // namespace tintora

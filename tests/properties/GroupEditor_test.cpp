@@ -164,6 +164,23 @@ TEST(GroupEditor, TheLastBorderThatIsReadIsSeen) {
     EXPECT_EQ(palette.controls.section, u"all");
 }
 
+TEST(GroupEditor, AChangedBorderIsMarkedAtOnce) {
+    EditorWithDocument palette(Border);
+    palette.Read(u"{border-left: 1px solid; border-bottom-color: red; border-bottom: solid;}");
+    const std::set<Text> before = {u"left", u"bottom"};
+    EXPECT_EQ(palette.controls.marked, before);
+    palette.editor.PropertyHasChanged(u"solid", 1055);
+    EXPECT_EQ(palette.controls.marked, (std::set<Text>{u"top", u"left", u"bottom"}));
+    palette.editor.PropertyHasChanged(u"", 1055);
+    EXPECT_EQ(palette.controls.marked, before);
+    // The color of the bottom is still declared.
+    palette.editor.PropertyHasChanged(u"", 1057);
+    EXPECT_EQ(palette.controls.marked, before);
+    palette.editor.PropertyHasChanged(u"", 1056);
+    EXPECT_EQ(palette.controls.marked, (std::set<Text>{u"bottom"}));
+    EXPECT_EQ(palette.controls.section, u"bottom") << "the tab stays";
+}
+
 TEST(GroupEditor, TheOffsetsFollowThePosition) {
     const std::set<int> offsets = {1030, 1031, 1032, 1033};
     EditorWithDocument palette(PageLayout);
