@@ -228,6 +228,18 @@ TEST_F(KeywordEditorTest, AnOpenListStaysAsItIsUntilItCloses) {
     EXPECT_EQ(list.currentText(), "");
 }
 
+TEST_F(KeywordEditorTest, AListThatTheDesktopClosesShowsWhatHasComeMeanwhile) {
+    ValueControl& control = Make(FontWeight);
+    ChoiceBox& list = List(control, "KeywordValue");
+    list.showPopup();
+    control.SetValue(u"heavy");
+    EXPECT_EQ(list.currentText(), "");
+    QApplication::activePopupWidget()->close();
+    QApplication::processEvents();
+    EXPECT_EQ(list.currentText(), "heavy");
+    EXPECT_EQ(Take(), "list");
+}
+
 TEST_F(KeywordEditorTest, FillingPutsAsideWhatWasTypedAndLeft) {
     ValueControl& control = Make(FontWeight);
     ChoiceBox& list = List(control, "KeywordValue");

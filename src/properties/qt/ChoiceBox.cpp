@@ -105,13 +105,15 @@ void ChoiceBox::showPopup() {
     if (count() > 0)
         Q_EMIT ListHasDroppedDown();
     QComboBox::showPopup();
+    view()->window()->installEventFilter(this);
 }
 
-void ChoiceBox::hidePopup() {
-    QComboBox::hidePopup();
+// The desktop closes lists, too.
+bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
     // The choice is still to be told, by its place in the list that was open.
-    if (waiting_)
+    if (event->type() == QEvent::Hide && waiting_)
         QMetaObject::invokeMethod(this, &ChoiceBox::ShowWaiting, Qt::QueuedConnection);
+    return QComboBox::eventFilter(watched, event);
 }
 
 void ChoiceBox::ShowWaiting() {

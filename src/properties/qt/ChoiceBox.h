@@ -45,7 +45,7 @@ class ChoiceBox : public QComboBox {
     [[nodiscard]] QSize sizeHint() const override { return SizeFor(sample_); }
     [[nodiscard]] QSize minimumSizeHint() const override { return SizeFor(least_); }
     void showPopup() override;
-    void hidePopup() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// What was typed has gone into the style sheet, so that to undo it is a matter of the style sheet.
     void NoteTextWritten();
