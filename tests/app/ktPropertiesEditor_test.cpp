@@ -242,6 +242,63 @@ TEST_F(ktPropertiesEditorTest, TheFocusComesBackAfterAChange) {
     documents.document = &edited;
 }
 
+TEST_F(ktPropertiesEditorTest, TheFocusStaysInThePaletteWhenItsEditorGoes) {
+    Load(u"p {|position: fixed; top: 12px;}");
+    palette.EditProperty(u"top");
+    palette.OpenPropertyEditor(u"border editor");
+    EXPECT_EQ(Caption(), "Border Editor");
+    EXPECT_TRUE(Part<QListWidget>("EditorSelector").hasFocus());
+    palette.OpenPropertyEditor(u"color");
+    EXPECT_TRUE(Part<QListWidget>("EditorSelector").hasFocus()) << "and isn't taken from there";
+    palette.EditProperty(u"top");
+    palette.ShowEditor(11);
+    EXPECT_TRUE(Part<QListWidget>("EditorSelector").hasFocus());
+}
+
+TEST_F(ktPropertiesEditorTest, AnEditorThatIsMadeAnewKeepsFocusAndCaret) {
+    Load(u"p {|position: fixed; top: 125px; left: 3px;}");
+    palette.EditProperty(u"top");
+    Field(1030, "Value").setCursorPosition(1);
+    const QPointer<GroupEditorForm> before = &Form();
+    palette.OpenPropertyEditor(u"left");
+    EXPECT_NE(&Form(), before);
+    EXPECT_TRUE(Field(1030, "Value").hasFocus());
+    EXPECT_EQ(Field(1030, "Value").cursorPosition(), 1);
+    List(1031, "Unit").setFocus();
+    palette.ShowEditor(group_editor::PageLayout);
+    EXPECT_TRUE(List(1031, "Unit").hasFocus());
+    List(1029).setFocus();
+    QTest::keyClicks(&List(1029), "x");
+    palette.ShowEditor(group_editor::PageLayout);
+    EXPECT_TRUE(List(1029).hasFocus());
+    text.setFocus();
+    palette.ShowEditor(group_editor::PageLayout);
+    EXPECT_TRUE(text.hasFocus());
+    // A part that rests in the new form takes nothing.
+    palette.EditProperty(u"top");
+    document.window.SetText(u"p {top: 1px; position: static;}");
+    palette.ShowEditor(group_editor::PageLayout);
+    EXPECT_TRUE(palette.isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(ktPropertiesEditorTest, CurrentPropertiesFollowWhatThePaletteWrites) {
+    Load(u"p {|color: red;}");
+    auto& current = Part<QListWidget>("PropertySelectorCurrent");
+    const auto names = [&] {
+        QStringList listed;
+        for (int row = 0; row < current.count(); ++row)
+            listed.append(current.item(row)->text());
+        return listed.join(" ").toStdString();
+    };
+    palette.EditProperty(u"font-weight");
+    Choose(List(1002), "bold");
+    EXPECT_EQ(names(), "color font-weight");
+    Choose(List(1002), "");
+    EXPECT_EQ(names(), "color");
+    EXPECT_TRUE(List(1002).hasFocus());
+    ExpectFlagsAreDown();
+}
+
 TEST_F(ktPropertiesEditorTest, UndoTakesAChangeBackAndThePaletteFollows) {
     Load(u"p {|font-weight: bold;}");
     palette.EditProperty(u"font-weight");
@@ -386,18 +443,24 @@ TEST_F(ktPropertiesEditorTest, ALongFormScrollsAndKeepsItsPlace) {
 }
 
 TEST_F(ktPropertiesEditorTest, TabGoesFromTopToBottomAndOn) {
-    Load(u"p {|}");
-    palette.ShowEditor(group_editor::MarginPadding);
-    palette.ShowEditor(group_editor::TextStyle);
-    Part<QCheckBox>("AutoSelectEditors").setFocus();
-    int lowest = -1;
-    for (const ControlRow& row : RowsOfEditor(group_editor::TextStyle)) {
-        while (!Control(row.number).isAncestorOf(QApplication::focusWidget())) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            const int top = QApplication::focusWidget()->mapTo(&parts, QPoint()).y();
-            ASSERT_GE(top, lowest - 4) << row.number;
-            ASSERT_TRUE(Form().isAncestorOf(QApplication::focusWidget())) << row.number;
-            lowest = top;
+    Load(u"li:before {|position: fixed; display: list-item; border: 1px solid; outline: 1px solid; quotes: '<' '>';}");
+    for (const GroupEditorEntry& editor : GroupEditors()) {
+        SCOPED_TRACE(Utf8FromText(editor.caption));
+        palette.ShowEditor(editor.number);
+        QApplication::processEvents();
+        Part<QCheckBox>("AutoSelectEditors").setFocus();
+        int lowest = -1;
+        for (const ControlRow& row : RowsOfEditor(editor.number)) {
+            if (!Control(row.number).isVisible())
+                continue;
+            while (!Control(row.number).isAncestorOf(QApplication::focusWidget())) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                const QWidget* const focus = QApplication::focusWidget();
+                ASSERT_TRUE(Form().isAncestorOf(focus)) << row.number;
+                const int top = focus->mapTo(&Form(), QPoint()).y();
+                ASSERT_GE(top, lowest - 4) << row.number;
+                lowest = top;
+            }
         }
     }
 }

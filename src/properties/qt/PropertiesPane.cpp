@@ -99,6 +99,9 @@ void PropertiesPane::CreateEditor(int number) {
 }
 
 void PropertiesPane::RemoveEditor() {
+    // Keys would go nowhere behind it.
+    if (keptFocus_.Keep(*form_))
+        selector_->setFocus(Qt::OtherFocusReason);
     // It may be the one whose control is being handled.
     form_->disconnect(this);
     QWidget* const form = editors_->takeWidget();
@@ -109,7 +112,14 @@ void PropertiesPane::RemoveEditor() {
 
 void PropertiesPane::SetCaption(TextView caption) { currentEditorName_->setText(ToQString(caption)); }
 
-void PropertiesPane::SetEditorProperties(const Texts& declarations) { form_->SetProperties(declarations); }
+void PropertiesPane::SetEditorProperties(const Texts& declarations) {
+    form_->SetProperties(declarations);
+    // The same form, made anew, takes it back as soon as it is filled, unless the focus has gone elsewhere.
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus != nullptr && selector_->isAncestorOf(focus))
+        keptFocus_.GiveBack(*form_);
+    keptFocus_.Forget();
+}
 
 void PropertiesPane::EditEditorProperty(int property) {
     if (property != 0 && isVisible() && !isActiveWindow())

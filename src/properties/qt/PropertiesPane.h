@@ -3,6 +3,7 @@
 #include "document/DocumentSurroundings.h"
 #include "properties/PaletteSurroundings.h"
 #include "properties/qt/ControlSurroundings.h"
+#include "properties/qt/KeptFocus.h"
 
 #include <QWidget>
 
@@ -65,6 +66,7 @@ class PropertiesPane : public QWidget, public PaletteParts {
     QLabel* currentEditorName_;
     QScrollArea* editors_;
     GroupEditorForm* form_ = nullptr;
+    KeptFocus keptFocus_;
 };
 
 }  // namespace tintora
