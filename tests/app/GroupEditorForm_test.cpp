@@ -4,10 +4,12 @@
 #include "properties/GroupEditors.h"
 #include "properties/qt/ChoiceBox.h"
 #include "settings/Settings.h"
+#include "text/Narrowing.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QDialog>
+#include <QLocale>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTimer>
@@ -433,14 +435,51 @@ TEST_F(GroupEditorFormTest, BadInputIsShownAndLeftAlone) {
             ExpectFlagsAreDown();
         }
     }
-    palette.ShowEditor(group_editor::TextStyle);
-    Load(u"p {|}");
-    clipboard.SetText(Text(3'000'000, u'x'));
-    for (const int number : {1001, 1013}) {
-        Form().EditProperty(number);
-        palette.Paste();
+}
+
+TEST_F(GroupEditorFormTest, MegabytesInTheClipboardLeaveTheTextAsItIs) {
+    // The editor would change with the caret.
+    Settings(settings).SaveAutoSelectEditors(0);
+    const TextView sheet = u"li:before {|position: fixed; clip: rect(1px); border: 1px solid; quotes: list;}";
+    for (const Text& pasted : {Text(3'000'000, u'x'), Text(100'000, u'1'), Text(100'000, u'\n') + u"none"}) {
+        clipboard.SetText(pasted);
+        for (const ControlRow& row : ControlRows()) {
+            SCOPED_TRACE(row.number);
+            palette.ShowEditor(row.editor);
+            Load(sheet);
+            Form().EditProperty(row.number);
+            const std::string before = SheetText();
+            try {
+                palette.Paste();
+            } catch (const OverflowFailure&) {
+                EXPECT_EQ(SheetText(), before);
+            }
+            EXPECT_LE(SheetText().size(), MaximumTextLength);
+            ExpectFlagsAreDown();
+            // The palette goes on.
+            Load(sheet);
+            EXPECT_EQ(edited.changes.size(), 0U);
+            EXPECT_LT(Shown(row.number).size(), 100U);
+        }
     }
-    EXPECT_EQ(SheetText(), "p {}");
+}
+
+TEST_F(GroupEditorFormTest, ValuesAreTheSameWhateverTheLanguage) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    Load(u"p {|line-height: 1.5em;}");
+    palette.ShowEditor(group_editor::TextLayout);
+    EXPECT_EQ(Field(1009, "Value").text(), "1.5");
+    Field(1009, "Value").selectAll();
+    QTest::keyClicks(&Field(1009, "Value"), "2,75.5");
+    EXPECT_EQ(SheetText(), "p {line-height: 275.5em;}");
+    palette.ShowEditor(group_editor::TextStyle);
+    Load(u"p {|color: rgb(1, 2, 3);}");
+    Form().EditProperty(1004);
+    EXPECT_EQ(Field(1004, "RGBEditText").text(), "1, 2, 3");
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QLocale::setDefault(before);
 }
 
 }  // namespace

@@ -195,6 +195,8 @@ const std::vector<StoryCase> Stories = {
     {0, false, u"p {font: 12px serif; font-weight: bold;|}", 1001, u"14px",
      "p {font: 12px serif; font-weight: bold;\nfont-size: 14px;}"},
     {0, true, u"p {|}", 1002, u"bold", "p {\nfont: bold;}"},
+    // The flag is in the text until the value changes.
+    {0, false, u"p {font-size: 12px !important;|}", 1001, u"14px", "p {font-size: 14px;}"},
     {0, false, u"p {font: 12px serif;|}", 1011, u"Arial", "p {font: 12px Arial;}"},
     {1, false, u"p {font: 12px serif;|}", 1009, u"150%", "p {font: 12px/150% serif;}"},
     {1, false, u"p {font: 12px serif;|}", 1005, u"1px", "p {font: 12px serif;\nletter-spacing: 1px;}"},
