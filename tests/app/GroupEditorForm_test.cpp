@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QLocale>
 #include <QPushButton>
 #include <QTabBar>
@@ -433,6 +434,43 @@ TEST_F(GroupEditorFormTest, BadInputIsShownAndLeftAlone) {
             palette.SetProperties(u"{" + body + u"}");
             EXPECT_EQ(edited.changes.size(), 0U) << Caption();
             ExpectFlagsAreDown();
+        }
+    }
+}
+
+/// Bodies near the length limit, each of which fills controls as often as can be.
+Texts LongBodies() {
+    const auto filled = [](Text body, const std::function<Text(char16_t)>& piece, TextView end) {
+        for (char16_t unit = 0x4E00; body.size() < 32'000; ++unit)
+            body += piece(unit);
+        return body.append(end);
+    };
+    const auto always = [](TextView piece) { return [piece](char16_t) { return Text(piece); }; };
+    return {
+        filled(u"{", always(u"float: left; color: red;"), u"}"),
+        filled(
+            u"{", [](char16_t unit) { return u"top: " + Text(1, unit) + u"; float: " + Text(1, unit) + u";"; }, u"}"),
+        filled(
+            u"{font: ", [](char16_t unit) { return Text(1, unit) + u"/" + Text(1, unit) + u" "; }, u";}"),
+        filled(u"{background: ", always(u"x red repeat 1px none "), u";}"),
+        filled(
+            u"{border: ", [](char16_t unit) { return Text(1, unit) + u" "; }, u";}"),
+        filled(u"{quotes: ", always(u"'' "), u";}"),
+        filled(u"{content: ", always(u"a "), u";}"),
+    };
+}
+
+TEST_F(GroupEditorFormTest, LongBodiesAreShownInNoTime) {
+    Load(u"li:before {|}");
+    for (const Text& body : LongBodies()) {
+        for (const GroupEditorEntry& editor : GroupEditors()) {
+            palette.ShowEditor(editor.number);
+            QElapsedTimer timer;
+            timer.start();
+            palette.SetProperties(body);
+            QApplication::processEvents();
+            // What is quadratic takes many seconds, and sanitizers some.
+            EXPECT_LT(timer.elapsed(), 2500) << Caption() << " " << Utf8FromText(body.substr(0, 30));
         }
     }
 }
