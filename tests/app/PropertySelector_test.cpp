@@ -215,6 +215,20 @@ TEST_F(PropertySelectorTest, CurrentPropertiesKeepTheirPlaceWhenTheyAreFilledAne
     EXPECT_EQ(Chosen(), QStringList{"p50"});
 }
 
+TEST_F(PropertySelectorTest, TheEditedPropertyIsSelectedAsSoonAsItIsInTheRule) {
+    Modes().setCurrentIndex(3);
+    selector.SetUpCurrentProperties({u"color: red", u"top: 0"});
+    selector.SelectPropertyInPropertySelector(1004, u"TextStylePropertiesEditor");
+    selector.SelectPropertyInPropertySelector(1002, u"TextStylePropertiesEditor");
+    EXPECT_EQ(Selected(), "color");
+    selector.SetUpCurrentProperties({u"color: red", u"top: 0", u"font-weight: bold"});
+    EXPECT_EQ(Selected(), "font-weight");
+    Click(View().model()->index(1, 0));
+    selector.SetUpCurrentProperties({u"color: red", u"top: 0", u"font-weight: bold", u"left: 0"});
+    EXPECT_EQ(Selected(), "top") << "once";
+    EXPECT_EQ(Chosen(), QStringList{"top"});
+}
+
 TEST_F(PropertySelectorTest, OfEqualNamesTheSelectedOneStays) {
     Modes().setCurrentIndex(3);
     selector.SetUpCurrentProperties({u"color: red", u"top: 0", u"color: blue"});

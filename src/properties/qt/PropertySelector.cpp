@@ -135,11 +135,11 @@ void PropertySelector::SelectInView() {
         case SelectorView::Editors: SelectInList(*editors_, CaptionToSelect(editorClass_)); break;
         case SelectorView::ByCategory: SelectInTree(name); break;
         case SelectorView::Alphabetical: SelectInList(*alphabetical_, name); break;
-        case SelectorView::CurrentProperties: SelectInList(*current_, name); break;
+        case SelectorView::CurrentProperties: isPropertyMissing_ = !SelectInList(*current_, name); break;
     }
 }
 
-void PropertySelector::SelectInList(QListWidget& list, TextView text) {
+bool PropertySelector::SelectInList(QListWidget& list, TextView text) {
     const QString wanted = ToQString(text);
     for (int row = 0; row < list.count(); ++row) {
         if (list.item(row)->text() != wanted)
@@ -149,8 +149,9 @@ void PropertySelector::SelectInList(QListWidget& list, TextView text) {
         if (list.currentItem() == nullptr || list.currentItem()->text() != wanted)
             list.setCurrentRow(row);
         list.scrollToItem(list.currentItem());
-        return;
+        return true;
     }
+    return false;
 }
 
 void PropertySelector::SetUpCurrentProperties(const Texts& declarations) {
@@ -171,6 +172,8 @@ void PropertySelector::SetUpCurrentProperties(const Texts& declarations) {
     // This lays the rows out too, so that the scroll bar has its range.
     current_->doItemsLayout();
     current_->verticalScrollBar()->setValue(scrolled);
+    if (isPropertyMissing_ && Mode() == SelectorView::CurrentProperties && !NameToSelect(property_).empty())
+        SelectInView();
 }
 
 SelectorView PropertySelector::Mode() const {

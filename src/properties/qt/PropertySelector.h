@@ -34,7 +34,7 @@ class PropertySelector : public QWidget {
     void SelectPropertyInPropertySelector(int property, TextView editorClass);
 
     /// "Current Properties" lists the names of these declaration texts. As far as they are the same as before, the
-    /// selection stays, and so does the scroll position.
+    /// selection stays, and so does the scroll position. The property that has the focus is selected when it comes.
     void SetUpCurrentProperties(const Texts& declarations);
 
     /// Does nothing: callers expect it.
@@ -55,7 +55,8 @@ class PropertySelector : public QWidget {
     void AddView(QAbstractItemView* view, const SelectorTab& tab);
     void SetUpTree();
     void SelectInTree(TextView name);
-    static void SelectInList(QListWidget& list, TextView text);
+    /// False if the list doesn't have it.
+    static bool SelectInList(QListWidget& list, TextView text);
     void ShowView(int index);
     void SelectInView();
 
@@ -67,6 +68,8 @@ class PropertySelector : public QWidget {
     QListWidget* current_ = nullptr;
 
     Texts currentNames_;
+    /// The property that is edited isn't in the rule yet.
+    bool isPropertyMissing_ = false;
     int property_ = 0;
     Text editorClass_;
 };
