@@ -67,6 +67,7 @@ class EditedSheet final : public EditedDocument, public EditedDocuments {
     }
 
     [[nodiscard]] EditedDocument* GetActiveDocument() override { return this; }
+    [[nodiscard]] EditedDocument* FindStyleSheet(TextView) override { return this; }
 
     void ChangeCurrentProperty(TextView name, TextView value) override {
         Window().ChangeCurrentProperty(name, value);

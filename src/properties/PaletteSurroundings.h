@@ -42,6 +42,9 @@ class EditedDocuments {
 
     /// `nullptr` for none.
     [[nodiscard]] virtual EditedDocument* GetActiveDocument() = 0;
+
+    /// The first open document with that caption; `nullptr` for none.
+    [[nodiscard]] virtual EditedDocument* FindStyleSheet(TextView caption) = 0;
 };
 
 /// The controls of one group editor, by the numbers of their rows. A control may report a change during any of these

@@ -14,6 +14,10 @@ void PropertiesHost::Load() {
     surroundings_.parts.SetAutoSelectEditors(AutoSelectsEditors());
 }
 
+EditedDocument* PropertiesHost::GetFrontStyleSheet() const {
+    return styleSheetWindow_.empty() ? nullptr : surroundings_.documents.FindStyleSheet(styleSheetWindow_);
+}
+
 void PropertiesHost::SetProperties(TextView body) {
     const Texts declarations = GetEditorDeclarations(body);
     SetUpPropertiesEditors(declarations);

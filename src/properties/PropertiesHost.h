@@ -36,6 +36,9 @@ class PropertiesHost {
     void UnRegisterStyleSheet(TextView /*caption*/) { styleSheetWindow_.clear(); }
     [[nodiscard]] const Text& StyleSheetWindow() const noexcept { return styleSheetWindow_; }
 
+    /// The first open document that is called so; `nullptr` for none.
+    [[nodiscard]] EditedDocument* GetFrontStyleSheet() const;
+
     // From the text.
 
     /// Fills the current editor and the list of current properties from the body of a statement; "" clears them.

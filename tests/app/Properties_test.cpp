@@ -126,7 +126,9 @@ TEST_F(PropertiesTest, OnlyWhatIsStillBeingTypedIsUndoneInItsField) {
 
 TEST_F(PropertiesTest, ThePaletteShowsTheDocumentInFrontOrNone) {
     PutCaret(InMargin);
+    EXPECT_EQ(Palette().GetFrontStyleSheet(), &window->ActiveDocument()->Edited());
     window->OpenOneStyleSheet(MakeFile("b.css", "em {margin-top: 9px;}"));
+    EXPECT_EQ(Palette().GetFrontStyleSheet(), &window->ActiveDocument()->Edited());
     PutCaret(6);
     EXPECT_EQ(Shown(MarginTop), "9px");
     Action("miWNextDocument").trigger();
@@ -134,6 +136,7 @@ TEST_F(PropertiesTest, ThePaletteShowsTheDocumentInFrontOrNone) {
     Action("miFCloseWindow").trigger();
     Action("miFCloseWindow").trigger();
     ASSERT_EQ(window->ActiveDocument(), nullptr);
+    EXPECT_EQ(Palette().GetFrontStyleSheet(), nullptr);
     EXPECT_EQ(Shown(MarginTop), "");
     EXPECT_FALSE(Palette().findChild<PropertySelector*>()->isEnabled());
     Action("miFNew").trigger();

@@ -57,8 +57,12 @@ class RecordingEditedDocument final : public EditedDocument {
 class OneDocument final : public EditedDocuments {
   public:
     [[nodiscard]] EditedDocument* GetActiveDocument() override { return document; }
+    [[nodiscard]] EditedDocument* FindStyleSheet(TextView wanted) override {
+        return wanted == caption ? document : nullptr;
+    }
 
     EditedDocument* document = nullptr;
+    Text caption;
 };
 
 /// Calls as one text: "a | b".

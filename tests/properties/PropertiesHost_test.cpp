@@ -214,8 +214,13 @@ TEST(PropertiesHost, OneWindowIsRegistered) {
     palette.host.RegisterStyleSheet(u"a.css");
     palette.host.RegisterStyleSheet(u"b.css");
     EXPECT_EQ(palette.host.StyleSheetWindow(), u"b.css");
+    EXPECT_EQ(palette.host.GetFrontStyleSheet(), nullptr);
+    palette.documents.caption = u"b.css";
+    EXPECT_EQ(palette.host.GetFrontStyleSheet(), &palette.document);
     palette.host.UnRegisterStyleSheet(u"a.css");
     EXPECT_EQ(palette.host.StyleSheetWindow(), u"");
+    palette.documents.caption.clear();
+    EXPECT_EQ(palette.host.GetFrontStyleSheet(), nullptr);
 }
 
 TEST(PropertiesHost, AFlagIsAsBeforeAlsoWhereAnExceptionPasses) {

@@ -46,6 +46,9 @@ class ktPropertiesEditor : public QWidget, public PropertiesPalette {
     void UnRegisterStyleSheet(TextView caption) { host_.UnRegisterStyleSheet(caption); }
     [[nodiscard]] const Text& StyleSheetWindow() const noexcept { return host_.StyleSheetWindow(); }
 
+    /// The first open document with that caption; `nullptr` for none.
+    [[nodiscard]] EditedDocument* GetFrontStyleSheet() const { return host_.GetFrontStyleSheet(); }
+
     /// Another document has come to the front, or the last one has gone: the palette is filled from it, or emptied and
     /// disabled.
     void UpdateDocument();

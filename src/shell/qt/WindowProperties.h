@@ -27,6 +27,8 @@ class WindowProperties : public QObject, private EditedDocuments {
         AskFiles askFiles;
         /// The style sheet in front, `nullptr` if there is none.
         std::function<EditedDocument*()> active;
+        /// The first open style sheet with that caption, `nullptr` if there is none.
+        std::function<EditedDocument*(TextView)> called;
         /// Shows the pane with that key.
         std::function<void(TextView)> showPane;
         /// Gives the focus to the text.
@@ -48,6 +50,9 @@ class WindowProperties : public QObject, private EditedDocuments {
 
   private:
     [[nodiscard]] EditedDocument* GetActiveDocument() override { return isClosed_ ? nullptr : surroundings_.active(); }
+    [[nodiscard]] EditedDocument* FindStyleSheet(TextView caption) override {
+        return isClosed_ ? nullptr : surroundings_.called(caption);
+    }
     [[nodiscard]] QString AskForFile(const QString& title, const QString& filters, QWidget* parent);
 
     Surroundings surroundings_;

@@ -76,6 +76,8 @@ void frmMain::LoadInto(StyleSheetPane& pane, TextView path) {
         throw;
     }
     UpdateCaption(&pane);
+    // It is called by its file from now on.
+    properties_->Palette().RegisterStyleSheet(ToText(pane.Caption()));
 }
 
 StyleSheetPane* frmMain::OpenNewStyleSheet(TextView text) {

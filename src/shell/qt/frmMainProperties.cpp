@@ -6,6 +6,9 @@
 #include "shell/qt/CorePropertiesBar.h"
 #include "shell/qt/WindowProperties.h"
 #include "shell/qt/frmMain.h"
+#include "text/qt/QtText.h"
+
+#include <algorithm>
 
 namespace tintora {
 
@@ -24,6 +27,11 @@ void frmMain::SetUpPropertiesPane() {
             .askColor = askColor_,
             .askFiles = askFiles_,
             .active = [this] { return ActiveDocument() == nullptr ? nullptr : &ActiveDocument()->Edited(); },
+            .called = [this](TextView caption) -> EditedDocument* {
+                const auto found = std::ranges::find_if(
+                    openDocuments_, [&](const StyleSheetPane* pane) { return ToText(pane->Caption()) == caption; });
+                return found == openDocuments_.end() ? nullptr : &(*found)->Edited();
+            },
             .showPane = [this](TextView pane) { ShowFloatingWindow(workspace_, pane); },
             .focusText = [this] { FocusText(); }},
         *this);
