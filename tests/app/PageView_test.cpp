@@ -58,6 +58,24 @@ class PageViewTest : public test::PageViewTest {
 
     [[nodiscard]] QString ScrollPlace() const { return Ask("String(Math.round(scrollY))"); }
 };
+    /// Shows a page, and gives the colours of the picture from before until it is told that the page is shown.
+    QList<QColor> ColorsSeenOnTheWayTo(const QString& path) {
+        QList<QColor> seen = {Pixel()};
+        const auto look = [&] {
+            const QColor color = Pixel();
+            if (color != seen.last())
+                seen.append(color);
+        };
+        QSignalSpy shown(view, &PageView::PageShown);
+        view->ShowPage(path);
+        EXPECT_TRUE(WaitFor([&] {
+            look();
+            return !shown.empty();
+        }));
+        look();
+        return seen;
+    }
+
 
 TEST_F(PageViewTest, ThereIsNoEngineBeforeThereIsAPageToSee) {
     view->ShowPage(Make("a.html", "a"));
@@ -220,16 +238,9 @@ TEST_F(PageViewTest, TheSamePageAskedForAgainAndAgainIsShown) {
 TEST_F(PageViewTest, ARefreshIsOneChangeOfPicture) {
     ASSERT_TRUE(Shows(MakeColored("0.html", "red")));
     ASSERT_TRUE(WaitFor([&] { return Pixel() == QColor(Qt::red); }));
-    for (int number = 1; number < 6; ++number) {
-        const bool isEven = number % 2 == 0;
-        QList<QColor> seen;
-        view->ShowPage(MakeColored(QString::number(number) + ".html", isEven ? "red" : "lime"));
-        ASSERT_TRUE(WaitFor([&] {
-            if (seen.empty() || seen.last() != Pixel())
-                seen.append(Pixel());
-            return seen.size() > 1;
-        }));
-        EXPECT_EQ(seen, QList<QColor>({isEven ? Qt::green : Qt::red, isEven ? Qt::red : Qt::green}));
+    for (int number = 1; number < 12; number += 2) {
+        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number, "lime")), QList<QColor>({Qt::red, Qt::green}));
+        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number + 1, "red")), QList<QColor>({Qt::green, Qt::red}));
     }
 }
 
@@ -237,6 +248,24 @@ TEST_F(PageViewTest, ALoadLeavesTheFocusWhereItIs) {
     const QByteArray grabbing = "<input autofocus><script>focus(); document.querySelector('input').focus()</script>";
     ASSERT_TRUE(Shows("a.html", grabbing));
     EXPECT_EQ(QApplication::focusWidget(), &field);
+    EXPECT_EQ(ColorsSeenOnTheWayTo(MakeColored("1.html", "lime")), QList<QColor>({Qt::red, Qt::green}));
+    for (int number = 2; number < 12; number += 2) {
+        EXPECT_EQ(ColorsSeenOnTheWayTo(MakeColored(QString::number(number) + ".html", "red")),
+                  QList<QColor>({Qt::green, Qt::red}));
+        EXPECT_EQ(ColorsSeenOnTheWayTo(MakeColored(QString::number(number + 1) + ".html", "lime")),
+                  QList<QColor>({Qt::red, Qt::green}));
+    }
+}
+
+TEST_F(PageViewTest, ARefreshOfAPageThatWasScrolledIsOneChangeOfPicture) {
+    const auto make = [this](int number, const QByteArray& color) {
+        return Make(QString::number(number) + ".html", "<style>body {margin: 0; background: " + color +
+                                                           "; height: 9000px}</style>" +
+                                                           "<div style='background: blue; height: 1000px'></div>");
+    };
+    ASSERT_TRUE(Shows(make(0, "red")));
+    EXPECT_EQ(Pixel(), QColor(Qt::blue));
+    Ask("scrollTo(0, 2000)");
     ASSERT_TRUE(Shows("b.html", grabbing));
     EXPECT_EQ(QApplication::focusWidget(), &field);
     QTest::keyClicks(&field, "text");

@@ -1,11 +1,14 @@
 #include "preview/qt/PageFace.h"
 
+#include "preview/qt/PictureScript.h"
 #include "preview/qt/PreviewPage.h"
 
 #include <signal.h>
 #include <QChildEvent>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QQuickWidget>
+#include <QQuickWindow>
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
 
@@ -18,33 +21,6 @@ constexpr int MostTries = 2;
 const QUrl& Nowhere() {
     static const QUrl address(QStringLiteral("about:blank"));
     return address;
-}
-
-/// Brings the page to its place and tells when a picture of it has been painted: the engine calls for the first frame
-/// once all sheets are there, and for the next when that one is out. A page that is still being read gets another
-/// while, since it would stand at the wrong place. One that went elsewhere while it was read has no body, and nothing
-/// to show.
-QString PictureScript(const QString& mark, int load, QPointF place, std::chrono::milliseconds patience) {
-    return QStringLiteral(
-               "(() => {"
-               "  const say = words => console.info('%1' + words + ' %2');"
-               "  let isPainting = false;"
-               "  const paint = () => {"
-               "    if (isPainting) return;"
-               "    if (document instanceof HTMLDocument && !document.body) return say('nothing');"
-               "    isPainting = true;"
-               "    scrollTo({left: %3, top: %4, behavior: 'instant'});"
-               "    requestAnimationFrame(() => requestAnimationFrame(() => say('painted')));"
-               "  };"
-               "  if (document.readyState != 'loading') return paint();"
-               "  addEventListener('DOMContentLoaded', paint);"
-               "  setTimeout(paint, %5);"
-               "})()")
-        .arg(mark)
-        .arg(load)
-        .arg(place.x())
-        .arg(place.y())
-        .arg(3 * patience.count());
 }
 
 }  // namespace
@@ -157,7 +133,7 @@ void PageFace::AwaitPicture() {
     if (isPictureAwaited_)
         return;
     isPictureAwaited_ = true;
-    page_->RunApart(PictureScript(page_->Mark(), load_, seen_->Place(), patience_.load));
+    page_->RunApart(PictureScript(page_->Mark(), load_, seen_->Place(), 3 * patience_.load));
 }
 
 void PageFace::Hear(const QString& words) {
@@ -166,10 +142,8 @@ void PageFace::Hear(const QString& words) {
     if (words == QStringLiteral("nothing %1").arg(load_)) {
         Fail();
     } else if (words == QStringLiteral("painted %1").arg(load_)) {
-        stage_ = Stage::Loaded;
-        loadPatience_.stop();
-        page_->history()->clear();
-        Q_EMIT LoadReady();
+        // The engine's word to the widget that it has a picture lies in the queue.
+        QMetaObject::invokeMethod(this, &PageFace::TakePicture, Qt::QueuedConnection);
     }
 }
 
@@ -178,6 +152,27 @@ QPointF PageFace::Place() const { return page_->scrollPosition() / zoomFactor();
 void PageFace::Kill() {
     const auto process = static_cast<pid_t>(page_->renderProcessPid());
     if (process > 0)
+/// The picture is seen once the widget has drawn its scene again.
+void PageFace::TakePicture() {
+    const auto* const surface = qobject_cast<QQuickWidget*>(focusProxy());
+    if (!surface)
+        return;
+    const auto note = [this, load = load_] {
+        if (load == load_ && stage_ == Stage::Loading)
+            NotePicture();
+    };
+    connect(surface->quickWindow(), &QQuickWindow::afterRendering, this, note,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    surface->quickWindow()->update();
+}
+
+void PageFace::NotePicture() {
+    stage_ = Stage::Loaded;
+    loadPatience_.stop();
+    page_->history()->clear();
+    Q_EMIT LoadReady();
+}
+
         kill(process, SIGKILL);
 }
 

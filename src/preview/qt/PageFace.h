@@ -81,6 +81,8 @@ class PageFace : public QWebEngineView {
     void End(bool isWhole);
     void AwaitPicture();
     void Hear(const QString& words);
+    void TakePicture();
+    void NotePicture();
     void NoteEnd();
     void NoteMissedAnswers();
     void ForgetQuestions();
