@@ -36,6 +36,8 @@ const Page ShownPages[] = {
      "replacing"},
     {"submitting.html", "<p>submitting<form action=x.html></form><script>document.forms[0].submit()</script>",
      "submitting"},
+    {"history.html", "<p>history<script>history.pushState(0, '', '#a'); history.back(); history.go(-9)</script>",
+     "history"},
     {"stopping.html", "<p>stopping<script>stop(); close()</script>", "stopping"},
     {"leaving.html", "<p>leaving<script>onbeforeunload = () => 'stay'; onunload = () => alert(1)</script>", "leaving"},
     {"framed.html", "<p>framed<iframe src=framed.html></iframe><script>top.location = 'x.html'</script>", "framed"},
@@ -56,8 +58,6 @@ class PageViewTest : public test::PageViewTest {
         return Make(name, "<style>body {margin: 0; background: " + color + "; height: 4000px}</style>" + color);
     }
 
-    [[nodiscard]] QString ScrollPlace() const { return Ask("String(Math.round(scrollY))"); }
-};
     /// Shows a page, and gives the colours of the picture from before until it is told that the page is shown.
     QList<QColor> ColorsSeenOnTheWayTo(const QString& path) {
         QList<QColor> seen = {Pixel()};
@@ -76,6 +76,8 @@ class PageViewTest : public test::PageViewTest {
         return seen;
     }
 
+    [[nodiscard]] QString ScrollPlace() const { return Ask("String(Math.round(scrollY))"); }
+};
 
 TEST_F(PageViewTest, ThereIsNoEngineBeforeThereIsAPageToSee) {
     view->ShowPage(Make("a.html", "a"));
@@ -133,6 +135,22 @@ TEST_F(PageViewTest, PagesAreShownWhateverTheyTry) {
         EXPECT_TRUE(WaitForWords(QString::fromUtf8(page.words)));
         EXPECT_TRUE(view->SeenFace()->Path().endsWith(QString::fromUtf8(page.name)));
     }
+}
+
+TEST_F(PageViewTest, APageThatKeepsGoingAwayGivesWayToTheNext) {
+    const QByteArray restless = "<p>restless<script>setInterval(() => location = 'x' + Math.random(), 0)</script>";
+    for (int round = 0; round < 3; ++round) {
+        const QByteArray number = QByteArray::number(round);
+        for (int again = 0; again < 4; ++again) {
+            ASSERT_TRUE(Shows("restless.html", restless + number));
+            EXPECT_EQ(Words(), "restless" + number) << again;
+        }
+        for (const QByteArray& words : {"a" + number, "b" + number}) {
+            ASSERT_TRUE(Shows(words + ".html", words));
+            EXPECT_EQ(Words(), words);
+        }
+    }
+    EXPECT_FALSE(Notice()->isVisible());
 }
 
 TEST_F(PageViewTest, WhatCannotBeShownLeavesThePicture) {
@@ -237,17 +255,6 @@ TEST_F(PageViewTest, TheSamePageAskedForAgainAndAgainIsShown) {
 
 TEST_F(PageViewTest, ARefreshIsOneChangeOfPicture) {
     ASSERT_TRUE(Shows(MakeColored("0.html", "red")));
-    ASSERT_TRUE(WaitFor([&] { return Pixel() == QColor(Qt::red); }));
-    for (int number = 1; number < 12; number += 2) {
-        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number, "lime")), QList<QColor>({Qt::red, Qt::green}));
-        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number + 1, "red")), QList<QColor>({Qt::green, Qt::red}));
-    }
-}
-
-TEST_F(PageViewTest, ALoadLeavesTheFocusWhereItIs) {
-    const QByteArray grabbing = "<input autofocus><script>focus(); document.querySelector('input').focus()</script>";
-    ASSERT_TRUE(Shows("a.html", grabbing));
-    EXPECT_EQ(QApplication::focusWidget(), &field);
     EXPECT_EQ(ColorsSeenOnTheWayTo(MakeColored("1.html", "lime")), QList<QColor>({Qt::red, Qt::green}));
     for (int number = 2; number < 12; number += 2) {
         EXPECT_EQ(ColorsSeenOnTheWayTo(MakeColored(QString::number(number) + ".html", "red")),
@@ -266,6 +273,17 @@ TEST_F(PageViewTest, ARefreshOfAPageThatWasScrolledIsOneChangeOfPicture) {
     ASSERT_TRUE(Shows(make(0, "red")));
     EXPECT_EQ(Pixel(), QColor(Qt::blue));
     Ask("scrollTo(0, 2000)");
+    ASSERT_TRUE(WaitFor([&] { return Pixel() == QColor(Qt::red); }));
+    for (int number = 1; number < 12; number += 2) {
+        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number, "lime")), QList<QColor>({Qt::red, Qt::green}));
+        EXPECT_EQ(ColorsSeenOnTheWayTo(make(number + 1, "red")), QList<QColor>({Qt::green, Qt::red}));
+    }
+}
+
+TEST_F(PageViewTest, ALoadLeavesTheFocusWhereItIs) {
+    const QByteArray grabbing = "<input autofocus><script>focus(); document.querySelector('input').focus()</script>";
+    ASSERT_TRUE(Shows("a.html", grabbing));
+    EXPECT_EQ(QApplication::focusWidget(), &field);
     ASSERT_TRUE(Shows("b.html", grabbing));
     EXPECT_EQ(QApplication::focusWidget(), &field);
     QTest::keyClicks(&field, "text");

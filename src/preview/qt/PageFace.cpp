@@ -52,7 +52,6 @@ PageFace::~PageFace() {
 void PageFace::Load(const QString& path, const PageFace& seen) {
     path_ = path;
     seen_ = &seen;
-    tries_ = 0;
     setZoomFactor(seen.zoomFactor());
     stage_ = Stage::Loading;
     loadPatience_.start();
@@ -70,16 +69,18 @@ void PageFace::Leave() {
 void PageFace::Head(const QUrl& address) {
     address_ = address;
     ++load_;
+    tries_ = 0;
     hasArrived_ = isPictureAwaited_ = false;
     isBound_ = true;
     GoOn();
 }
 
-/// The engine mixes up two loads at once, so that an earlier one has to end first.
+/// The engine mixes up two loads at once, so that an earlier one has to end first. A page that keeps wanting to go
+/// elsewhere would break off the next load, however often it is refused; so it ends with its process.
 void PageFace::GoOn() {
     if (!isBound_)
         return;
-    if (IsStuck()) {
+    if (IsStuck() || page_->HasStrayed()) {
         Kill();
     } else if (page_->isLoading()) {
         page_->triggerAction(QWebEnginePage::Stop);
@@ -100,17 +101,21 @@ void PageFace::Follow(const QWebEngineLoadingInfo& info) {
     const bool isEnd = info.status() != QWebEngineLoadingInfo::LoadStartedStatus;
     if (isUnderway_)
         hasStarted_ = hasStarted_ || info.url() == page_->Address();
-    if (isEnd && hasStarted_)
+    if (isEnd && (hasStarted_ || page_->HasStrayed()))
         isUnderway_ = false;
     if (isBound_)
         QMetaObject::invokeMethod(this, &PageFace::GoOn, Qt::QueuedConnection);
-    else if (isEnd && hasStarted_)
+    else if (isEnd && (hasStarted_ || page_->HasStrayed()))
         End(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
 }
 
 /// A page that wants to go elsewhere ends as one that was stopped, and has been read all the same.
 void PageFace::End(bool isWhole) {
-    if (stage_ == Stage::Leaving) {
+    if (!isWhole && !hasArrived_ && page_->HasStrayed() && ++tries_ < MostTries) {
+        // The page before broke this load off.
+        isBound_ = true;
+        GoOn();
+    } else if (stage_ == Stage::Leaving) {
         stage_ = Stage::Empty;
         page_->history()->clear();
         ForgetQuestions();
@@ -147,11 +152,6 @@ void PageFace::Hear(const QString& words) {
     }
 }
 
-QPointF PageFace::Place() const { return page_->scrollPosition() / zoomFactor(); }
-
-void PageFace::Kill() {
-    const auto process = static_cast<pid_t>(page_->renderProcessPid());
-    if (process > 0)
 /// The picture is seen once the widget has drawn its scene again.
 void PageFace::TakePicture() {
     const auto* const surface = qobject_cast<QQuickWidget*>(focusProxy());
@@ -173,6 +173,11 @@ void PageFace::NotePicture() {
     Q_EMIT LoadReady();
 }
 
+QPointF PageFace::Place() const { return page_->scrollPosition() / zoomFactor(); }
+
+void PageFace::Kill() {
+    const auto process = static_cast<pid_t>(page_->renderProcessPid());
+    if (process > 0)
         kill(process, SIGKILL);
 }
 
@@ -180,13 +185,12 @@ void PageFace::NoteEnd() {
     const Stage stage = stage_;
     isUnderway_ = false;
     ForgetQuestions();
-    if (stage == Stage::Loading && !hasArrived_ && ++tries_ < MostTries) {
-        // The process had been doomed before this page came to it.
-        isBound_ = true;
+    // The process may have been doomed before this page came to it.
+    isBound_ = isBound_ || (stage == Stage::Loading && !hasArrived_ && ++tries_ < MostTries);
+    if (isBound_) {
         QMetaObject::invokeMethod(this, &PageFace::GoOn, Qt::QueuedConnection);
         return;
     }
-    isBound_ = false;
     stage_ = stage == Stage::Leaving ? Stage::Empty : Stage::Dead;
     loadPatience_.stop();
     if (stage == Stage::Loading)

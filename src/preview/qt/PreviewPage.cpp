@@ -30,7 +30,8 @@ bool MayBeInFrame(const QUrl& address) {
 PreviewPage::PreviewPage(QWebEngineProfile& profile, QObject* parent)
     : QWebEnginePage(&profile, parent), mark_(QUuid::createUuid().toString()) {
     RefuseRequests();
-    connect(this, &QWebEnginePage::urlChanged, this, [this] { isLeaving_ = false; });
+    connect(this, &QWebEnginePage::urlChanged, this, &PreviewPage::NoteArrival);
+    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { hasStrayed_ = false; });
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest& request) {
         if (request.isUserInitiated())
             Choose(request.requestedUrl());
@@ -52,6 +53,12 @@ void PreviewPage::Go(const QUrl& address) {
     address_ = address;
     isLeaving_ = true;
     load(address);
+}
+
+void PreviewPage::NoteArrival(const QUrl& address) {
+    if (address == address_)
+        hasStrayed_ = false;
+    isLeaving_ = false;
 }
 
 void PreviewPage::NoteUserAction() { userAction_.start(); }
@@ -78,6 +85,7 @@ bool PreviewPage::acceptNavigationRequest(const QUrl& address, NavigationType ty
         Choose(address);
         return false;
     }
+    hasStrayed_ = hasStrayed_ || isMainFrame;
     return !isMainFrame && type != NavigationTypeFormSubmitted && MayBeInFrame(address);
 }
 

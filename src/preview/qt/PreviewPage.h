@@ -19,6 +19,10 @@ class PreviewPage : public QWebEnginePage {
     /// Where it went last.
     [[nodiscard]] const QUrl& Address() const { return address_; }
 
+    /// Whether what is here wanted to go elsewhere of its own accord and was refused. `Go` ends that as soon as what it
+    /// leads to is here, and so does the end of the process.
+    [[nodiscard]] bool HasStrayed() const { return hasStrayed_; }
+
     /// The user has pressed a button or a key in the page: the next link that the page wants to follow within a second
     /// is the user's choice. The engine doesn't tell a link that a script follows from one that is clicked.
     void NoteUserAction();
@@ -45,6 +49,7 @@ class PreviewPage : public QWebEnginePage {
                                   const QString& source) override;
 
   private:
+    void NoteArrival(const QUrl& address);
     [[nodiscard]] bool TakeUserAction();
     void Choose(const QUrl& address);
     void RefuseRequests();
@@ -52,6 +57,7 @@ class PreviewPage : public QWebEnginePage {
     QString mark_;
     QUrl address_;
     bool isLeaving_ = false;
+    bool hasStrayed_ = false;
     QElapsedTimer userAction_;
 };
 
