@@ -35,7 +35,7 @@ class WindowPreviewTest : public WindowTest {
         window->activateWindow();
         // The pane may still be at the page of an empty sheet.
         Document().Window().PreviewNow();
-        ASSERT_TRUE(WaitFor([&] { return Field().SeenFace() != nullptr && IsShowingNewest(); }));
+        ASSERT_TRUE(WaitFor([&] { return IsShowingNewest(Field()); }));
     }
 
     frmPreview& Form() { return *window->findChild<frmPreview*>(); }
@@ -47,18 +47,28 @@ class WindowPreviewTest : public WindowTest {
     QCheckBox& LiveBox() { return *Form().findChild<QCheckBox*>(QStringLiteral("LivePreview")); }
     StyleSheetPane& Document() { return *window->ActiveDocument(); }
 
-    /// Does something, and waits until a page has been shown since.
+    /// Does something, and waits until the newest page has been shown since. What the program had begun of its own
+    /// accord is shown before, so that it isn't taken for that.
     testing::AssertionResult ShowsPageAfter(PageView& view, const std::function<void()>& work) {
+        if (view.isVisible() && view.SeenFace() != nullptr && !WaitFor([&] { return IsShowingNewest(view); }))
+            return testing::AssertionFailure() << "the page from before isn't shown";
         QSignalSpy shown(&view, &PageView::PageShown);
         work();
-        if (!WaitFor([&] { return !shown.empty(); }))
+        if (!WaitFor([&] { return !shown.empty() && shown.last().first() == NewestPage(view); }))
             return testing::AssertionFailure() << "no page is shown";
         return testing::AssertionSuccess();
     }
 
-    /// Whether the page that was made last is the one that is seen.
-    bool IsShowingNewest() {
-        return ToText(Field().SeenFace()->Path()) == Settings(store).Get(setting::LastPreviewHTMLFile);
+    /// The page that was made last for a view.
+    QString NewestPage(const PageView& view) {
+        const bool isRule = &view == &RuleField();
+        return ToQString(
+            Settings(store).Get(isRule ? setting::LastCurrentRulePreviewFile : setting::LastPreviewHTMLFile));
+    }
+
+    /// Whether that page is the one that is seen.
+    bool IsShowingNewest(const PageView& view) {
+        return view.SeenFace() != nullptr && view.SeenFace()->Path() == NewestPage(view);
     }
 
     /// What a script in the page that is seen gives; "no answer" if it gives none.
