@@ -36,7 +36,7 @@ PageFace::PageFace(QWebEngineProfile& profile, PagePatience patience, QWidget* p
             AwaitPicture();
     });
     connect(page_, &QWebEnginePage::loadingChanged, this, &PageFace::Follow);
-    connect(page_, &QWebEnginePage::urlChanged, this, &PageFace::NoteArrival);
+    connect(page_, &PreviewPage::Arrived, this, &PageFace::NoteArrival);
     connect(page_, &QWebEnginePage::renderProcessTerminated, this, &PageFace::NoteEnd);
     connect(page_, &PreviewPage::Said, this, &PageFace::Hear);
 }
@@ -125,8 +125,8 @@ void PageFace::End(bool isWhole) {
     }
 }
 
-void PageFace::NoteArrival(const QUrl& address) {
-    if (isBound_ || stage_ != Stage::Loading || address != address_)
+void PageFace::NoteArrival() {
+    if (isBound_ || stage_ != Stage::Loading)
         return;
     hasArrived_ = true;
     ForgetQuestions();

@@ -77,7 +77,7 @@ class PageFace : public QWebEngineView {
     void GoOn();
     void Fail();
     void Follow(const QWebEngineLoadingInfo& info);
-    void NoteArrival(const QUrl& address);
+    void NoteArrival();
     void End(bool isWhole);
     void AwaitPicture();
     void Hear(const QString& words);

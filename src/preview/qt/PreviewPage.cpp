@@ -6,12 +6,16 @@
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 
 namespace tintora {
 
 namespace {
 
 constexpr int UserActionHolds = 1000;
+
+/// A page says so at its beginning, and adds its address.
+constexpr QLatin1String Here("here ");
 
 bool LeadsSomewhere(const QUrl& address) {
     static const QStringList inner = {QString(), QStringLiteral("about"), QStringLiteral("javascript"),
@@ -30,12 +34,30 @@ bool MayBeInFrame(const QUrl& address) {
 PreviewPage::PreviewPage(QWebEngineProfile& profile, QObject* parent)
     : QWebEnginePage(&profile, parent), mark_(QUuid::createUuid().toString()) {
     RefuseRequests();
-    connect(this, &QWebEnginePage::urlChanged, this, &PreviewPage::NoteArrival);
+    TellOfArrivals();
+    connect(this, &QWebEnginePage::urlChanged, this, [this] { isLeaving_ = false; });
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { hasStrayed_ = false; });
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest& request) {
         if (request.isUserInitiated())
             Choose(request.requestedUrl());
     });
+}
+
+void PreviewPage::TellOfArrivals() {
+    QWebEngineScript script;
+    script.setSourceCode(QStringLiteral("console.info('%1%2' + location.href)").arg(mark_, Here));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::ApplicationWorld);
+    scripts().insert(script);
+}
+
+void PreviewPage::Hear(const QString& words) {
+    if (!words.startsWith(Here)) {
+        Q_EMIT Said(words);
+    } else if (QUrl::fromEncoded(words.mid(Here.size()).toUtf8()) == address_) {
+        hasStrayed_ = false;
+        Q_EMIT Arrived();
+    }
 }
 
 void PreviewPage::RefuseRequests() {
@@ -53,12 +75,6 @@ void PreviewPage::Go(const QUrl& address) {
     address_ = address;
     isLeaving_ = true;
     load(address);
-}
-
-void PreviewPage::NoteArrival(const QUrl& address) {
-    if (address == address_)
-        hasStrayed_ = false;
-    isLeaving_ = false;
 }
 
 void PreviewPage::NoteUserAction() { userAction_.start(); }
@@ -94,7 +110,7 @@ bool PreviewPage::javaScriptConfirm(const QUrl&, const QString&) { return isLeav
 
 void PreviewPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int, const QString&) {
     if (message.startsWith(mark_))
-        Q_EMIT Said(message.mid(mark_.size()));
+        Hear(message.mid(mark_.size()));
 }
 
 }  // namespace tintora

@@ -34,6 +34,9 @@ class PreviewPage : public QWebEnginePage {
     [[nodiscard]] const QString& Mark() const { return mark_; }
 
   Q_SIGNALS:
+    /// What `Go` leads to has taken the place of what was here, and none of its own scripts has run yet. The engine
+    /// tells the new address earlier, while scripts would still run in the old page.
+    void Arrived();
     /// The user wants to go to another document.
     void LinkChosen(const QUrl& address);
     void Said(const QString& words);
@@ -49,7 +52,8 @@ class PreviewPage : public QWebEnginePage {
                                   const QString& source) override;
 
   private:
-    void NoteArrival(const QUrl& address);
+    void TellOfArrivals();
+    void Hear(const QString& words);
     [[nodiscard]] bool TakeUserAction();
     void Choose(const QUrl& address);
     void RefuseRequests();
