@@ -18,6 +18,10 @@ namespace {
 
 constexpr int MostTries = 2;
 
+/// How long it may take to read a page to its end and to draw it, in times of the patience with a load.
+constexpr int TimesForReading = 3;
+constexpr int TimesForDrawing = 2;
+
 const QUrl& Nowhere() {
     static const QUrl address(QStringLiteral("about:blank"));
     return address;
@@ -35,6 +39,9 @@ PageFace::PageFace(QWebEngineProfile& profile, PagePatience patience, QWidget* p
         if (hasArrived_)
             AwaitPicture();
     });
+    picturePatience_.setSingleShot(true);
+    picturePatience_.setInterval((TimesForReading + TimesForDrawing) * patience.load);
+    connect(&picturePatience_, &QTimer::timeout, this, &PageFace::DoWithoutPicture);
     connect(page_, &QWebEnginePage::loadingChanged, this, &PageFace::Follow);
     connect(page_, &PreviewPage::Arrived, this, &PageFace::NoteArrival);
     connect(page_, &QWebEnginePage::renderProcessTerminated, this, &PageFace::NoteEnd);
@@ -45,6 +52,7 @@ PageFace::PageFace(QWebEngineProfile& profile, PagePatience patience, QWidget* p
 PageFace::~PageFace() {
     page_->disconnect(this);
     ++question_;
+    ++load_;
     setPage(nullptr);
     delete page_;
 }
@@ -138,7 +146,8 @@ void PageFace::AwaitPicture() {
     if (isPictureAwaited_)
         return;
     isPictureAwaited_ = true;
-    page_->RunApart(PictureScript(page_->Mark(), load_, seen_->Place(), 3 * patience_.load));
+    page_->RunApart(PictureScript(page_->Mark(), load_, seen_->Place(), TimesForReading * patience_.load));
+    picturePatience_.start();
 }
 
 void PageFace::Hear(const QString& words) {
@@ -166,9 +175,18 @@ void PageFace::TakePicture() {
     surface->quickWindow()->update();
 }
 
+/// A machine that is overloaded may never draw what isn't seen. A page that answers is taken as it is then.
+void PageFace::DoWithoutPicture() {
+    page_->RunApart(QStringLiteral("0"), [this, load = load_](const QVariant&) {
+        if (load == load_ && stage_ == Stage::Loading)
+            NotePicture();
+    });
+}
+
 void PageFace::NotePicture() {
     stage_ = Stage::Loaded;
     loadPatience_.stop();
+    picturePatience_.stop();
     page_->history()->clear();
     Q_EMIT LoadReady();
 }

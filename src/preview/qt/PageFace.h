@@ -83,6 +83,7 @@ class PageFace : public QWebEngineView {
     void Hear(const QString& words);
     void TakePicture();
     void NotePicture();
+    void DoWithoutPicture();
     void NoteEnd();
     void NoteMissedAnswers();
     void ForgetQuestions();
@@ -90,6 +91,7 @@ class PageFace : public QWebEngineView {
     PagePatience patience_;
     PreviewPage* page_;
     QTimer loadPatience_;
+    QTimer picturePatience_;
     Stage stage_ = Stage::Empty;
     QString path_;
     QUrl address_;
