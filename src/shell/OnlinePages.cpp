@@ -44,7 +44,7 @@ constexpr auto Pages = std::to_array<OnlinePage>({
      u"Tables of what each browser supports"},
 
     {u"miHCSSValidator", Validators, u"&CSS Validator", u"https://jigsaw.w3.org/css-validator/",
-     u"Checks a style sheet against the specification"},
+     u"Tells whether a style sheet is valid CSS"},
     {u"miHHTMLValidator", Validators, u"&Markup Validator", u"https://validator.w3.org/",
      u"Checks a page against the doctype that it names"},
     {u"miHHTMLChecker", Validators, u"&HTML Checker", u"https://validator.w3.org/nu/",
