@@ -2,6 +2,7 @@
 #include "Sheets.h"
 #include "cli/HeadlessDocument.h"
 #include "model/DeclarationText.h"
+#include "properties/EditedStyleSheet.h"
 #include "properties/GroupEditor.h"
 #include "properties/GroupEditors.h"
 #include "settings/MemorySettingsStore.h"
@@ -54,10 +55,20 @@ class RecordedControls final : public EditorControls {
     std::map<int, Text> values_;
 };
 
-/// An open document with its caret in the rule, as the palette edits it.
-class EditedSheet final : public EditedDocument, public EditedDocuments {
+/// An open document without windows, which is there before anything is made of it.
+class OpenDocument {
+  protected:
+    [[nodiscard]] ktStyleSheetWindow& Window() { return document_.Window(); }
+    [[nodiscard]] const ktStyleSheetWindow& Window() const { return document_.Window(); }
+
+    MemorySettingsStore settings_;
+    cli::HeadlessDocument document_{settings_};
+};
+
+/// That document with its caret in the rule, as the palette edits it.
+class EditedSheet final : private OpenDocument, public EditedStyleSheet, public EditedDocuments {
   public:
-    EditedSheet() {
+    EditedSheet() : EditedStyleSheet(Window()) {
         const Text sheet = SheetWithRule();
         document_.Open(sheet);
         const auto caret = static_cast<int>(sheet.rfind(u'{')) + 1;
@@ -70,38 +81,19 @@ class EditedSheet final : public EditedDocument, public EditedDocuments {
     [[nodiscard]] EditedDocument* FindStyleSheet(TextView) override { return this; }
 
     void ChangeCurrentProperty(TextView name, TextView value) override {
-        Window().ChangeCurrentProperty(name, value);
+        EditedStyleSheet::ChangeCurrentProperty(name, value);
         static_cast<void>(document_.TakeCalls());
     }
     void ChangeCurrentProperties(const DeclarationChanges& changes) override {
-        Window().ChangeCurrentProperties(changes);
+        EditedStyleSheet::ChangeCurrentProperties(changes);
         static_cast<void>(document_.TakeCalls());
     }
-    void UpdatePropertiesEditor() override { Window().UpdatePropertiesEditor(); }
     void PreviewNow() override {}
     void PreviewCurrentRule() override {}
-    void DisableNextPreview() override { Window().DisableNextPreview(); }
-    [[nodiscard]] int GetCurrentStatementNumber() const override {
-        return Window().GetCurrentStatementNumber(Window().GetSelectionStart());
-    }
-    [[nodiscard]] Text GetCurrentSelector() const override { return Window().GetCurrentSelector(); }
-    [[nodiscard]] int GetCurrentSelectorType() const override { return Window().GetCurrentSelectorType(); }
-    [[nodiscard]] Text GetFile() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentColors() const override { return Window().GetCurrentColors(); }
-    [[nodiscard]] Texts GetCurrentFonts() const override { return Window().GetCurrentFonts(); }
-    [[nodiscard]] Texts GetCurrentURLs() const override { return Window().GetCurrentURLs(); }
-    [[nodiscard]] Texts GetCurrentSelectors() const override { return Window().GetCurrentSelectors(); }
 
     [[nodiscard]] Text Body() const {
         return Window().StyleSheet().GetPropertiesFromSelection(Window().GetSelectionStart());
     }
-
-  private:
-    [[nodiscard]] ktStyleSheetWindow& Window() { return document_.Window(); }
-    [[nodiscard]] const ktStyleSheetWindow& Window() const { return document_.Window(); }
-
-    MemorySettingsStore settings_;
-    cli::HeadlessDocument document_{settings_};
 };
 
 /// A group editor over that document, filled.

@@ -378,25 +378,12 @@ TEST_F(MoreFontsButtonTest, TheButtonRestsWithTheEditor) {
 // Filling
 
 /// A document that counts how often its colours are looked for.
-class CountingDocument final : public EditedDocument {
+class CountingDocument final : public StillDocument {
   public:
-    void ChangeCurrentProperty(TextView, TextView) override {}
-    void ChangeCurrentProperties(const DeclarationChanges&) override {}
-    void UpdatePropertiesEditor() override {}
-    void PreviewNow() override {}
-    void PreviewCurrentRule() override {}
-    void DisableNextPreview() override {}
-    [[nodiscard]] int GetCurrentStatementNumber() const override { return 1; }
-    [[nodiscard]] Text GetCurrentSelector() const override { return u"p"; }
-    [[nodiscard]] int GetCurrentSelectorType() const override { return 5; }
-    [[nodiscard]] Text GetFile() const override { return {}; }
     [[nodiscard]] Texts GetCurrentColors() const override {
         ++asked;
         return {u"#123456"};
     }
-    [[nodiscard]] Texts GetCurrentFonts() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentURLs() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
 
     mutable int asked = 0;
 };

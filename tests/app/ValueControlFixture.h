@@ -45,25 +45,15 @@ class RecordingMenus final : public PaletteMenus {
 };
 
 /// The document in front, with what its style sheet uses.
-class UsedDocument final : public EditedDocument {
+class UsedDocument final : public StillDocument {
   public:
-    void ChangeCurrentProperty(TextView, TextView) override {}
-    void ChangeCurrentProperties(const DeclarationChanges&) override {}
-    void UpdatePropertiesEditor() override {}
-    void PreviewNow() override {}
-    void PreviewCurrentRule() override {}
-    void DisableNextPreview() override {}
-    [[nodiscard]] int GetCurrentStatementNumber() const override { return 1; }
-    [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
-    [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
+    UsedDocument() { selector = u"p"; }
+
     [[nodiscard]] Text GetFile() const override { return file; }
     [[nodiscard]] Texts GetCurrentColors() const override { return colors; }
     [[nodiscard]] Texts GetCurrentFonts() const override { return fonts; }
     [[nodiscard]] Texts GetCurrentURLs() const override { return urls; }
-    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
 
-    Text selector = u"p";
-    int selectorType = 5;
     Text file = u"/site/style.css";
     Texts colors;
     Texts fonts;

@@ -11,8 +11,31 @@ namespace tintora::test {
 
 using PaletteCalls = std::vector<std::string>;
 
+/// A document that nothing changes, and that has nothing to offer.
+class StillDocument : public EditedDocument {
+  public:
+    void ChangeCurrentProperty(TextView, TextView) override {}
+    void ChangeCurrentProperties(const DeclarationChanges&) override {}
+    void UpdatePropertiesEditor() override {}
+    void PreviewNow() override {}
+    void PreviewCurrentRule() override {}
+    void DisableNextPreview() override {}
+    [[nodiscard]] int GetCurrentStatementNumber() const override { return statementNumber; }
+    [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
+    [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
+    [[nodiscard]] Text GetFile() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentColors() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentFonts() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentURLs() const override { return {}; }
+    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
+
+    int statementNumber = 1;
+    Text selector;
+    int selectorType = 5;
+};
+
 /// A document that writes down what the palette does to it.
-class RecordingEditedDocument final : public EditedDocument {
+class RecordingEditedDocument final : public StillDocument {
   public:
     explicit RecordingEditedDocument(PaletteCalls& calls) : calls_(calls) {}
 
@@ -34,21 +57,10 @@ class RecordingEditedDocument final : public EditedDocument {
     void PreviewNow() override { calls_.emplace_back("PreviewNow"); }
     void PreviewCurrentRule() override { calls_.emplace_back("PreviewCurrentRule"); }
     void DisableNextPreview() override { calls_.emplace_back("DisableNextPreview"); }
-    [[nodiscard]] int GetCurrentStatementNumber() const override { return statementNumber; }
-    [[nodiscard]] Text GetCurrentSelector() const override { return selector; }
-    [[nodiscard]] int GetCurrentSelectorType() const override { return selectorType; }
-    [[nodiscard]] Text GetFile() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentColors() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentFonts() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentURLs() const override { return {}; }
-    [[nodiscard]] Texts GetCurrentSelectors() const override { return {}; }
 
     /// What the text does while it is changed, and when the palette asks to be filled.
     std::function<void()> onChange;
     std::function<void()> onUpdate;
-    int statementNumber = 1;
-    Text selector;
-    int selectorType = 5;
 
   private:
     PaletteCalls& calls_;

@@ -2,6 +2,7 @@
 
 #include "properties/qt/BadValueMark.h"
 #include "properties/qt/ChoiceModel.h"
+#include "properties/qt/ControlLayout.h"
 #include "properties/qt/FilteredField.h"
 #include "properties/qt/HistoryKeys.h"
 #include "text/qt/QtText.h"
@@ -10,7 +11,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -98,9 +98,7 @@ Text ChoiceBox::ShownText() const { return isEditable() ? ToText(lineEdit()->tex
 bool ChoiceBox::IsListOpen() const { return openList_ != nullptr && openList_->isVisible(); }
 
 void ChoiceBox::showPopup() {
-    // The list is as wide as its longest entry, whatever the width of the box.
-    const int margins = 2 * view()->frameWidth() + view()->verticalScrollBar()->sizeHint().width();
-    view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + margins));
+    WidenList(*this);
     openList_ = view();
     if (count() > 0)
         Q_EMIT ListHasDroppedDown();

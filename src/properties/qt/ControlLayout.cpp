@@ -3,8 +3,11 @@
 #include "language/Vocabulary.h"
 #include "text/qt/QtText.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace tintora {
@@ -21,6 +24,12 @@ void ShowFieldText(QLineEdit& field, TextView text) {
     field.setText(shown);
     // The beginning of a long text says more than its end.
     field.home(false);
+}
+
+void WidenList(QComboBox& box) {
+    QAbstractItemView& list = *box.view();
+    const int margins = 2 * list.frameWidth() + list.verticalScrollBar()->sizeHint().width();
+    list.setMinimumWidth(std::max(box.width(), list.sizeHintForColumn(0) + margins));
 }
 
 QPushButton* MakeNarrowButton(const QString& name, QWidget* parent) {

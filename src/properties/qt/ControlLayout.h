@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QComboBox;
 class QLineEdit;
 class QPushButton;
 class QWidget;
@@ -18,6 +19,9 @@ void FocusIfUsable(QWidget& part);
 
 /// Shows a text in a field; one that is there already keeps its caret.
 void ShowFieldText(QLineEdit& field, TextView text);
+
+/// Makes the list that drops down as wide as its longest entry, whatever the width of the box.
+void WidenList(QComboBox& box);
 
 /// A button whose name is its caption, and which may become as narrow as that.
 [[nodiscard]] QPushButton* MakeNarrowButton(const QString& name, QWidget* parent);

@@ -1,12 +1,12 @@
 #include "shell/qt/CorePropertyBox.h"
 
+#include "properties/qt/ControlLayout.h"
 #include "properties/qt/HistoryKeys.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QStringListModel>
 #include <QStyleOptionComboBox>
 #include <algorithm>
@@ -123,9 +123,7 @@ QSize CorePropertyBox::sizeHint() const {
 }
 
 void CorePropertyBox::showPopup() {
-    // The list is as wide as its longest entry, whatever the width of the box.
-    const int margins = 2 * view()->frameWidth() + view()->verticalScrollBar()->sizeHint().width();
-    view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + margins));
+    WidenList(*this);
     QComboBox::showPopup();
 }
 
